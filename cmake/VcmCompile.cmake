@@ -1,0 +1,31 @@
+# What every target of this project is compiled with: vcm_compile(TARGET).
+
+set(VCM_SANITIZE "" CACHE STRING "Sanitizers to build with, for instance address,undefined")
+option(VCM_COVERAGE "Instrument for coverage" OFF)
+
+find_package(Threads REQUIRED)
+
+add_library(vcm_compile_options INTERFACE)
+target_compile_features(vcm_compile_options INTERFACE cxx_std_20 c_std_99)
+target_link_libraries(vcm_compile_options INTERFACE Threads::Threads)
+if(VCM_DEVELOPER)
+  target_compile_options(vcm_compile_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
+if(VCM_SANITIZE)
+  target_compile_options(vcm_compile_options INTERFACE
+    -fsanitize=${VCM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(vcm_compile_options INTERFACE -fsanitize=${VCM_SANITIZE})
+endif()
+if(VCM_COVERAGE)
+  target_compile_options(vcm_compile_options INTERFACE --coverage)
+  target_link_options(vcm_compile_options INTERFACE --coverage)
+endif()
+
+function(vcm_compile target)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vcm_compile_options>)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    C_EXTENSIONS OFF
+    POSITION_INDEPENDENT_CODE ON)
+endfunction()

@@ -1,0 +1,25 @@
+// The key modes of the bundled host, for the application that owns the process. Plain C.
+//
+// Mode 1 makes keys out of addresses, any other value makes ordinary keys out of satellite number and
+// epoch. While `useAllKeyMode` is nonzero the all-key mode counts, otherwise the element-set key mode.
+// Set them before other threads use the library.
+#ifndef HOST_HOSTKEYMODES_H
+#define HOST_HOSTKEYMODES_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+extern int32_t useAllKeyMode;
+int32_t allkeymodeget(void);
+void allkeymodeset(const int32_t *mode);
+int32_t elsetkeymodeget(void);
+void elsetkeymodeset(const int32_t *mode);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
