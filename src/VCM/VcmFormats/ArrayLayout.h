@@ -1,0 +1,36 @@
+// The array form: 512 numbers and 512 characters.
+#ifndef VCM_VCMFORMATS_ARRAYLAYOUT_H
+#define VCM_VCMFORMATS_ARRAYLAYOUT_H
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+#include "VCM/VcmTypes/VcmRecord.h"
+
+namespace vcm {
+
+inline constexpr std::size_t kArrayNumbers = 512;
+inline constexpr std::size_t kArrayCharacters = 512;
+
+// One number: its position, counted from 0, and how it is taken out of a record.
+struct ArrayNumber {
+  std::size_t position;
+  double (*get)(const VcmRecord& record);
+};
+
+// One text: its first position, counted from 0.
+struct ArrayText {
+  std::size_t position;
+  std::string_view (*get)(const VcmRecord& record);
+};
+
+extern const std::span<const ArrayNumber> kArrayNumberLayout;
+extern const std::span<const ArrayText> kArrayTextLayout;
+
+// The covariance triangle; only where the covariance size is at least 1.
+inline constexpr std::size_t kArrayCovariance = 100;
+
+}  // namespace vcm
+
+#endif

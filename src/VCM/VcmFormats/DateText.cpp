@@ -1,0 +1,70 @@
+#include "VCM/VcmFormats/DateText.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "Host/HostCalendar.h"
+#include "VCM/VcmFormats/Field.h"
+
+namespace vcm {
+
+namespace {
+
+constexpr std::array<std::string_view, 12> kMonths = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
+                                                      "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
+
+// The parts of the date, by their columns within it.
+constexpr std::string_view kCalendarForm = "         (      )   :  :      ";
+constexpr Column kYear{1};
+constexpr Column kDayOfYear{6};
+constexpr Column kDayOfMonth{11};
+constexpr Column kMonth{14};
+constexpr Column kHour{19};
+constexpr Column kMinute{22};
+constexpr Column kSeconds{25};
+constexpr Column kFraction{27};
+constexpr int kSecondsWidth = 6;
+
+// The fraction of a second as a point and three digits, with whatever stands before the point when
+// that is not a zero. Returns the number of characters, at least four.
+int writeFraction(double fraction, char* out) {
+  constexpr int kWidth = 6;  // a sign, a digit, the point and the decimals
+  constexpr std::size_t kUsualWidth = 4;
+  std::array<char, kWidth> text;
+  writeFixed(text.data(), kWidth, 3, fraction);
+  auto blanks = static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
+  blanks += text[blanks] == '0' ? 1 : 0;
+  blanks = std::min(blanks, text.size() - kUsualWidth);
+  return static_cast<int>(std::copy(text.begin() + blanks, text.end(), out) - out);
+}
+
+}  // namespace
+
+int writeCalendarDate(const InputDate& date, char* out) {
+  std::int32_t month = 1;
+  std::int32_t dayOfMonth = 0;
+  jul2mmdd(&date.year, &date.dayOfYear, &month, &dayOfMonth);
+
+  const auto at = [out](Column column) { return out + column.index(); };
+  copyPadded(kCalendarForm, out, kCalendarDateWidth);
+  writeInteger(at(kYear), 4, date.year);
+  writeZeroFilled(at(kDayOfYear), 3, date.dayOfYear);
+  writeZeroFilled(at(kDayOfMonth), 2, dayOfMonth);
+  copyPadded(kMonths[static_cast<std::size_t>(std::clamp(month, 1, 12) - 1)], at(kMonth), 3);
+  writeZeroFilled(at(kHour), 2, date.hour);
+  writeZeroFilled(at(kMinute), 2, date.minute);
+  const double whole = std::trunc(date.seconds);
+  writeZeroFilled(at(kSeconds), 2, truncated(whole));
+  return static_cast<int>(kFraction.index()) + writeFraction(date.seconds - whole, at(kFraction));
+}
+
+bool readCalendarDate(std::string_view text, InputDate& date) {
+  return readInteger(columnsOf(text, kYear, 4), date.year) &&
+         readInteger(columnsOf(text, kDayOfYear, 3), date.dayOfYear) &&
+         readInteger(columnsOf(text, kHour, 2), date.hour) &&
+         readInteger(columnsOf(text, kMinute, 2), date.minute) &&
+         readReal(columnsOf(text, kSeconds, kSecondsWidth), 0, date.seconds);
+}
+
+}  // namespace vcm

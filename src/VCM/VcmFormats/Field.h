@@ -1,0 +1,204 @@
+// The rows that layout tables are made of.
+//
+// A Field binds a place in a line to a record member and to the way the member is written and read
+// there. Tables are arrays of Fields; writers and readers are loops over them:
+//
+//   field<&VcmRecord::wtdRms, Scientific<12, 5, 10>>("wtdRms", Column{58})
+//
+// puts the weighted RMS in columns 58 to 69 as sci 12.5 and reads it there with 10 implied
+// decimals.
+#ifndef VCM_VCMFORMATS_FIELD_H
+#define VCM_VCMFORMATS_FIELD_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "VCM/VcmFormats/NumberReading.h"
+#include "VCM/VcmFormats/NumberWriting.h"
+#include "VCM/VcmTypes/VcmRecord.h"
+
+namespace vcm {
+
+// A column of a line, counted from 1.
+struct Column {
+  int number;
+  constexpr std::size_t index() const { return static_cast<std::size_t>(number - 1); }
+};
+
+// The part of a line that lies in `width` columns from `first` on; shorter where the line ends.
+constexpr std::string_view columnsOf(std::string_view line, Column first, int width) {
+  return first.index() >= line.size() ? std::string_view()
+                                      : line.substr(first.index(), static_cast<std::size_t>(width));
+}
+
+struct Field {
+  std::string_view name;
+  Column first;
+  int width;
+  // Fills `width` characters at `out` and returns how many; only a date can come out longer.
+  int (*write)(const VcmRecord& record, char* out);
+  // Takes the text of the field's columns (less than `width` where the line ends early). False when
+  // it cannot be read: then the member keeps its value.
+  bool (*read)(std::string_view text, VcmRecord& record);
+};
+
+// ---- formats: how one value stands in `width` characters
+// -----------------------------------------
+
+template <int Width>
+struct Integer {
+  static constexpr int width = Width;
+  static void write(std::int32_t value, char* out) { writeInteger(out, Width, value); }
+  static bool read(std::string_view text, std::int32_t& value) { return readInteger(text, value); }
+};
+
+template <int Width>
+struct ZeroFilled {
+  static constexpr int width = Width;
+  static void write(std::int32_t value, char* out) { writeZeroFilled(out, Width, value); }
+  static bool read(std::string_view text, std::int32_t& value) { return readInteger(text, value); }
+};
+
+template <int Width, int Decimals, int ImpliedDecimals>
+struct Fixed {
+  static constexpr int width = Width;
+  static void write(double value, char* out) { writeFixed(out, Width, Decimals, value); }
+  static bool read(std::string_view text, double& value) {
+    return readReal(text, ImpliedDecimals, value);
+  }
+};
+
+template <int Width, int Digits, int ImpliedDecimals>
+struct Scientific {
+  static constexpr int width = Width;
+  static void write(double value, char* out) { writeScientific(out, Width, Digits, value); }
+  static bool read(std::string_view text, double& value) {
+    return readReal(text, ImpliedDecimals, value);
+  }
+};
+
+// A number that stands twice: this second place is not read.
+template <int Width>
+struct WrittenOnly : Integer<Width> {
+  static bool read(std::string_view /*text*/, std::int32_t& /*value*/) { return true; }
+};
+
+// A real shown as a whole number: the fraction is dropped on purpose.
+template <int Width>
+struct WholeReal {
+  static constexpr int width = Width;
+  static void write(double value, char* out) { writeInteger(out, Width, truncated(value)); }
+  static bool read(std::string_view text, double& value) { return readReal(text, 0, value); }
+};
+
+// The UT1 rate: seconds per day in the record, milliseconds per day in every text and array.
+inline constexpr double kSecondsPerMillisecond = 0.001;
+
+template <int Width, int Decimals>
+struct MillisecondRate {
+  static constexpr int width = Width;
+  static void write(double value, char* out) {
+    writeFixed(out, Width, Decimals, value / kSecondsPerMillisecond);
+  }
+  static bool read(std::string_view text, double& value) {
+    if (!readReal(text, 0, value)) {
+      return false;
+    }
+    value *= kSecondsPerMillisecond;
+    return true;
+  }
+};
+
+struct Characters {
+  template <std::size_t N>
+  static void write(const FixedText<N>& value, char* out) {
+    copyPadded(value.view(), out, N);
+  }
+  template <std::size_t N>
+  static bool read(std::string_view text, FixedText<N>& value) {
+    value.assign(text);
+    return true;
+  }
+};
+
+// A model name that is blank or NONE in a message is a two-body model in the record. The test comes
+// before the shift to the left, deliberately: a shifted NONE stays a name.
+inline constexpr std::string_view kTwoBody = "2-BODY";
+
+struct ShiftedCharacters {
+  template <std::size_t N>
+  static void write(const FixedText<N>& value, char* out) {
+    copyPadded(value.view(), out, N);
+  }
+  template <std::size_t N>
+  static bool read(std::string_view text, FixedText<N>& value) {
+    value.assign(text);
+    value.shiftLeft();
+    return true;
+  }
+};
+
+struct GeopotentialName : ShiftedCharacters {
+  static bool read(std::string_view text, FixedText<6>& value) {
+    const FixedText<6> name(text);
+    if (name.isBlank() || name.view() == "NONE  ") {
+      value.assign(kTwoBody);
+      return true;
+    }
+    return ShiftedCharacters::read(text, value);
+  }
+};
+
+// ---- rows
+// ----------------------------------------------------------------------------------------
+
+// What a row stands for: a member, or one component of a vector member.
+template <auto Member, std::size_t... Component>
+constexpr auto& memberOf(auto& record) {
+  if constexpr (sizeof...(Component) == 0) {
+    return record.*Member;
+  } else {
+    return (record.*Member)[(Component + ...)];
+  }
+}
+
+template <auto Member, class Format, std::size_t... Component>
+constexpr Field field(std::string_view name, Column first) {
+  constexpr int width = [] {
+    if constexpr (requires { Format::width; }) {
+      return Format::width;
+    } else {
+      return static_cast<int>(
+          std::remove_cvref_t<decltype(memberOf<Member>(std::declval<VcmRecord&>()))>::width);
+    }
+  }();
+  return {name, first, width,
+          [](const VcmRecord& record, char* out) {
+            if constexpr (requires { Format::growing; }) {
+              return Format::write(memberOf<Member, Component...>(record), out);
+            } else {
+              Format::write(memberOf<Member, Component...>(record), out);
+              return width;
+            }
+          },
+          [](std::string_view text, VcmRecord& record) {
+            return Format::read(text, memberOf<Member, Component...>(record));
+          }};
+}
+
+// The three rows of a vector whose components stand `step` columns apart.
+template <auto Member, class Format>
+constexpr std::array<Field, 3> vectorFields(const std::array<std::string_view, 3>& names,
+                                            Column first, int step) {
+  return {field<Member, Format, 0>(names[0], first),
+          field<Member, Format, 1>(names[1], Column{first.number + step}),
+          field<Member, Format, 2>(names[2], Column{first.number + 2 * step})};
+}
+
+}  // namespace vcm
+
+#endif

@@ -1,0 +1,38 @@
+#include "VCM/VcmTree/ReadGate.h"
+
+#include <thread>
+
+namespace vcm {
+
+// The flag and the count are written by one side and read by the other in opposite order, so they
+// need the single total order of sequentially consistent operations.
+
+void ReadGate::beginRead() {
+  for (;;) {
+    while (isUpdating.load() != 0) {
+      std::this_thread::yield();
+    }
+    numReads.fetch_add(1);
+    if (isUpdating.load() == 0) {
+      return;
+    }
+    numReads.fetch_sub(1);
+  }
+}
+
+void ReadGate::endRead() { numReads.fetch_sub(1); }
+
+void ReadGate::beginUpdate() {
+  updatenote.lock();
+  isUpdating.store(1);
+  while (numReads.load() > 0) {
+    std::this_thread::yield();
+  }
+}
+
+void ReadGate::endUpdate() {
+  isUpdating.store(0);
+  updatenote.unlock();
+}
+
+}  // namespace vcm

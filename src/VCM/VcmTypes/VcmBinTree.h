@@ -1,0 +1,35 @@
+// The node of the store's tree and the handle of a store.
+#ifndef VCM_VCMTYPES_VCMBINTREE_H
+#define VCM_VCMTYPES_VCMBINTREE_H
+
+#include <cstdint>
+
+#include "VCM/VcmTypes/VcmRecord.h"
+
+namespace vcm {
+
+struct VcmBinTree {
+  std::int64_t satKey = 0;
+  std::int32_t seqNum = 0;      // order of loading, from 1; given when the node is linked in
+  std::int32_t balance = 0;     // -1 left side higher, 0, +1 right side higher
+  VcmBinTree* left = nullptr;   // smaller keys
+  VcmBinTree* right = nullptr;  // larger keys
+  VcmRecord* rec = nullptr;     // owned; null when the key is a direct address
+};
+
+// Releases a node and the record it owns.
+inline void freeVcmBinTree(VcmBinTree* node) {
+  if (node != nullptr) {
+    delete node->rec;
+    delete node;
+  }
+}
+
+// A store: the root of its tree, null when it is empty.
+struct VcmMedia {
+  VcmBinTree* root = nullptr;
+};
+
+}  // namespace vcm
+
+#endif
