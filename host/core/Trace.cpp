@@ -24,8 +24,8 @@ int fileDescriptor = -1;
 
 void chooseFile() {
   fileChosen = true;
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): only an application that changes its environment from
-  // several threads is at risk, whatever it calls.
+  // Only an application that changes its environment from several threads is at risk here, as it is
+  // with whatever else it calls. NOLINTNEXTLINE(concurrency-mt-unsafe)
   const char* name = std::getenv("HOST_TRACE_LOG");
   if (name == nullptr || *name == '\0') {
     return;

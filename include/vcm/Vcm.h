@@ -6,17 +6,21 @@
  *
  * Conventions of every function
  *
- * Keys      A stored message is addressed by a signed 64-bit key, satKey. It is made of satellite
- *           number and epoch, or, in the direct-address key mode, of a memory address. -1 is no
- * key. Texts     A text argument is an array of fixed length, blank padded, not terminated on
- * output. On input a NUL ends it, so that a C string is fine; no more than the fixed length is
- * read. Results   0 is success, 2 is "not found, refused or not readable". Other codes stand with
- * the function that gives them. Messages  A function that fails writes a line to the host's error
- * trace; warnings and information go to the trace as information. The library keeps no error state.
- * Nothing is thrown; only exhausted memory ends the process. Threads   Every function may be called
- * from any thread. Functions that read the store run side by side; one that changes it waits for
- * them and has it alone. Ownership Everything passed in is copied; everything passed out is written
- * into the caller's arrays. No pointer is kept. Null      No argument may be null.
+ * Keys       A stored message is addressed by a signed 64-bit key, satKey. It is made of satellite
+ *            number and epoch or, in the direct-address key mode, of a memory address. -1 is no key.
+ * Texts      A text argument is an array of fixed length (the VCM_..._LENGTH named beside it), blank
+ *            padded, not terminated on output. On input a NUL ends it, so that a C string is fine; no
+ *            more than the fixed length is read.
+ * Results    0 is success, 2 is "not found, refused or not readable". Other codes stand with the
+ *            function that gives them.
+ * Messages   A function that fails writes a line to the host's error trace; warnings and information
+ *            go to the trace as information. The library keeps no error state. Nothing is thrown; only
+ *            exhausted memory ends the process.
+ * Threads    Every function may be called from any thread. Functions that read the store run side by
+ *            side; one that changes it waits for them and has it alone.
+ * Ownership  Everything passed in is copied; everything passed out is written into the caller's
+ *            arrays. No pointer is kept.
+ * Null       No argument may be null.
  */
 #ifndef VCM_VCM_H
 #define VCM_VCM_H
@@ -36,8 +40,7 @@ extern "C" {
 #define VCM_NOEXCEPT
 #endif
 
-/* ---- lengths of texts and arrays, in characters and elements ------------------------------------
- */
+/* ---- lengths of texts and arrays, in characters and elements ---------------------------- */
 
 #define VCM_INFO_LENGTH 128       /* description of the library */
 #define VCM_FILE_NAME_LENGTH 512  /* name of a file */
@@ -45,16 +48,14 @@ extern "C" {
 #define VCM_CHAR_ARRAY_LENGTH 512 /* texts of the array form */
 #define VCM_NUM_ARRAY_LENGTH 512  /* numbers of the array form */
 
-/* ---- orders of VcmGetLoaded ---------------------------------------------------------------------
- */
+/* ---- orders of VcmGetLoaded ------------------------------------------------------------- */
 
 #define VCM_ORDER_SATELLITE 0         /* by satellite number, then epoch */
 #define VCM_ORDER_SATELLITE_REVERSE 1 /* the same backwards */
 #define VCM_ORDER_LOADED 2            /* in the order of loading */
 #define VCM_ORDER_KEY 3               /* by key; so is every other value */
 
-/* ---- positions in the number array, counted from 0 ----------------------------------------------
- */
+/* ---- positions in the number array, counted from 0 -------------------------------------- */
 
 #define VCM_NUM_SATNUM 0          /* satellite number */
 #define VCM_NUM_EPOCH 1           /* days since 1950 UTC (1950 January 1, 0 h is 1.0) */
@@ -91,8 +92,7 @@ extern "C" {
 #define VCM_NUM_WTDRMS 48      /* weighted RMS of the fit */
 #define VCM_NUM_COVARIANCE 100 /* to 144: lower triangle of 9 x 9, row by row */
 
-/* ---- positions in the character array, counted from 0 -------------------------------------------
- */
+/* ---- positions in the character array, counted from 0 ----------------------------------- */
 
 #define VCM_CHAR_INTLDES 0        /* 8: launch year (2), piece (6) */
 #define VCM_CHAR_GEONAME 33       /* 6: geopotential model */
@@ -108,8 +108,7 @@ extern "C" {
 #define VCM_CHAR_FIXEDSTEP 86     /* 3: ON or OFF */
 #define VCM_CHAR_STEPSELECTION 89 /* 6 */
 
-/* ---- lifecycle ----------------------------------------------------------------------------------
- */
+/* ---- lifecycle -------------------------------------------------------------------------- */
 
 /*
  * Prepares the library. Call it once, after the host framework's own initialisation.
@@ -159,8 +158,7 @@ VCM_API int32_t VcmRemoveSat(int64_t satKey) VCM_NOEXCEPT;
  */
 VCM_API int32_t VcmRemoveAllSats(void) VCM_NOEXCEPT;
 
-/* ---- keys ---------------------------------------------------------------------------------------
- */
+/* ---- keys ------------------------------------------------------------------------------- */
 
 /*
  * Finds a stored message of a satellite. Of several, which one is not determined: list the keys to
@@ -189,19 +187,16 @@ VCM_API int64_t VcmGetSatKeyML(int32_t satNum, int64_t* satKey) VCM_NOEXCEPT;
  *                 "YYDDD.DDDDDDDD" (years 57 to 99 are 19xx) or "YYYYDDDHHMMSS.SSS".
  * Result: the key, or -1 when the number or the epoch is none.
  */
-VCM_API int64_t VcmFieldsToSatKey(int32_t satNum,
-                                  const char epoch[VCM_EPOCH_TEXT_LENGTH]) VCM_NOEXCEPT;
+VCM_API int64_t VcmFieldsToSatKey(int32_t satNum, const char* epoch) VCM_NOEXCEPT;
 
 /*
  * The same, for callers that cannot receive a 64-bit result.
  *
  * Returned: satKey  the key or -1.
  */
-VCM_API void VcmFieldsToSatKeyML(int32_t satNum, const char epoch[VCM_EPOCH_TEXT_LENGTH],
-                                 int64_t* satKey) VCM_NOEXCEPT;
+VCM_API void VcmFieldsToSatKeyML(int32_t satNum, const char* epoch, int64_t* satKey) VCM_NOEXCEPT;
 
-/* ---- files --------------------------------------------------------------------------------------
- */
+/* ---- files ------------------------------------------------------------------------------ */
 
 /*
  * Loads every good message of a file, and of the files that its directive cards name, into the
@@ -209,15 +204,16 @@ VCM_API void VcmFieldsToSatKeyML(int32_t satNum, const char epoch[VCM_EPOCH_TEXT
  * in column 1) and any other text. A card QZ_DMA_ON anywhere in the file switches keys to direct
  * addresses.
  *
- * Given:  vcmFile  name of the file (VCM_FILE_NAME_LENGTH); blanks around it do not count. A pipe
- * is read as well. Result: 0, or the nonzero code of an open that failed (this file's or a named
- * one's).
+ * Given:  vcmFile  name of the file (VCM_FILE_NAME_LENGTH); blanks around it do not count. It may be
+ *                  a pipe.
+ * Result: 0, or the nonzero code of an open that failed (this file's or a named one's).
  *
- * Information: the file's name, and at the end "Total VCMs = ..., Loaded = ..., Dup = ..., Bad =
- * ...". Each message that is a duplicate or cannot be read or stored has its line in the error
- * trace. One file is loaded at a time: other threads' loads wait.
+ * Information: the file's name, and at the end
+ * "Total VCMs = <n>, Loaded = <n>, Dup = <n>, Bad = <n>". Each message that is a duplicate or cannot
+ * be read or stored has its line in the error trace. One file is loaded at a time: other threads'
+ * loads wait.
  */
-VCM_API int32_t VcmLoadFile(const char vcmFile[VCM_FILE_NAME_LENGTH]) VCM_NOEXCEPT;
+VCM_API int32_t VcmLoadFile(const char* vcmFile) VCM_NOEXCEPT;
 
 /*
  * Saves every stored message as a multi-line message, ascending by key, behind a heading.
@@ -227,11 +223,9 @@ VCM_API int32_t VcmLoadFile(const char vcmFile[VCM_FILE_NAME_LENGTH]) VCM_NOEXCE
  * Result: 0, or the nonzero code of an open that failed. What a full disk does not take is not
  *         reported.
  */
-VCM_API int32_t VcmSaveFile(const char vcmFile[VCM_FILE_NAME_LENGTH],
-                            int32_t saveMode) VCM_NOEXCEPT;
+VCM_API int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT;
 
-/* ---- all fields ---------------------------------------------------------------------------------
- */
+/* ---- all fields ------------------------------------------------------------------------- */
 
 /*
  * Gives a stored message in the array form.
@@ -240,8 +234,8 @@ VCM_API int32_t VcmSaveFile(const char vcmFile[VCM_FILE_NAME_LENGTH],
  * Returned: vcmCharArray  texts (VCM_CHAR_ARRAY_LENGTH), blanks where VCM_CHAR_... names nothing.
  *           vcmNumArray   numbers (VCM_NUM_ARRAY_LENGTH), 0 where VCM_NUM_... names nothing.
  * Result:   0, or 2 when no such message is stored: then "GetSatToFields: Unable to locate satKey
- *           <satKey> in the VCM binary tree." stands in the error trace, the characters are blank
- * and the numbers as they were.
+ *           <satKey> in the VCM binary tree." stands in the error trace, the characters are blank and
+ *           the numbers as they were.
  */
 VCM_API int32_t VcmRetrieveAllData(int64_t satKey, char vcmCharArray[VCM_CHAR_ARRAY_LENGTH],
                                    double vcmNumArray[VCM_NUM_ARRAY_LENGTH]) VCM_NOEXCEPT;

@@ -12,11 +12,14 @@
 extern "C" {
 #endif
 
+/* The library's own headers declare these, too: the compiler holds both against each other. */
+/* NOLINTBEGIN(readability-redundant-declaration) */
 extern int32_t useAllKeyMode;
 int32_t allkeymodeget(void);
-void allkeymodeset(const int32_t *mode);
+void allkeymodeset(const int32_t* mode);
 int32_t elsetkeymodeget(void);
-void elsetkeymodeset(const int32_t *mode);
+void elsetkeymodeset(const int32_t* mode);
+/* NOLINTEND(readability-redundant-declaration) */
 
 #ifdef __cplusplus
 }

@@ -18,11 +18,13 @@ inline constexpr std::int32_t kGood = 0;
 inline constexpr std::int32_t kRejected = 2;
 
 inline constexpr int kCovarianceDimension = 9;
-// Values of the lower triangle of a full covariance.
+// Elements of a full covariance, and values of its lower triangle.
+inline constexpr std::size_t kCovarianceElements =
+    std::size_t{kCovarianceDimension} * kCovarianceDimension;
 inline constexpr int kCovarianceValues = kCovarianceDimension * (kCovarianceDimension + 1) / 2;
 
 // Column by column, internal element order, both triangles filled.
-using CovarianceMatrix = std::array<double, kCovarianceDimension * kCovarianceDimension>;
+using CovarianceMatrix = std::array<double, kCovarianceElements>;
 // The lower triangle in external element order, row by row: the values of a message.
 using CovarianceTriangle = std::array<double, kCovarianceValues>;
 

@@ -28,7 +28,7 @@ class FileName {
 
 }  // namespace
 
-int32_t VcmLoadFile(const char vcmFile[VCM_FILE_NAME_LENGTH]) VCM_NOEXCEPT {
+int32_t VcmLoadFile(const char* vcmFile) VCM_NOEXCEPT {
   const FileName name(vcmFile);
   std::string message("VcmLoadFile: Reading VCMs from file \"");
   message.append(name.view()).append("\".");
@@ -36,7 +36,7 @@ int32_t VcmLoadFile(const char vcmFile[VCM_FILE_NAME_LENGTH]) VCM_NOEXCEPT {
   return vcm::ReadVcmsFrFile(name.view());
 }
 
-int32_t VcmSaveFile(const char vcmFile[VCM_FILE_NAME_LENGTH], int32_t saveMode) VCM_NOEXCEPT {
+int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT {
   const FileName name(vcmFile);
   constexpr std::int32_t kCreate = 0;
   constexpr std::int32_t kAppend = 2;

@@ -47,14 +47,13 @@ int64_t VcmGetSatKeyML(int32_t satNum, int64_t* satKey) VCM_NOEXCEPT {
   return *satKey = vcm::GetSatKey(satNum);
 }
 
-int64_t VcmFieldsToSatKey(int32_t satNum, const char epoch[VCM_EPOCH_TEXT_LENGTH]) VCM_NOEXCEPT {
+int64_t VcmFieldsToSatKey(int32_t satNum, const char* epoch) VCM_NOEXCEPT {
   char text[VCM_EPOCH_TEXT_LENGTH];
   constexpr std::int32_t kLength = VCM_EPOCH_TEXT_LENGTH;
   chararrtostr(epoch, &kLength, text, &kLength);
   return vcm::FieldsToSatKey(satNum, text);
 }
 
-void VcmFieldsToSatKeyML(int32_t satNum, const char epoch[VCM_EPOCH_TEXT_LENGTH],
-                         int64_t* satKey) VCM_NOEXCEPT {
+void VcmFieldsToSatKeyML(int32_t satNum, const char* epoch, int64_t* satKey) VCM_NOEXCEPT {
   *satKey = VcmFieldsToSatKey(satNum, epoch);
 }
