@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <vector>
 
 #include "Host/HostCore.h"
@@ -139,6 +140,10 @@ std::int32_t followDirective(std::string_view card, MessageCounts& counts,
   const std::string_view trimmed = withoutTrailingBlanks({name.data(), name.size()});
   OpenFile file;
   if (const std::int32_t code = openForReading(trimmed, file); code != 0) {
+    // The code alone would not tell which of the files it is.
+    std::string message("ReadVcmsFrFileUnit: Unable to open file \"");
+    message.append(trimmed).append("\", which a directive card names.");
+    logError(message);
     return code;
   }
   tell(observer, trimmed);

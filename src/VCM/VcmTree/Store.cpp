@@ -29,6 +29,20 @@ void say(TraceLine* message, std::string_view text) {
   }
 }
 
+// The key of a record's satellite number and epoch; a line in the error trace when there is none.
+std::int64_t makeKey(const VcmRecord& record) {
+  const std::int64_t satKey = createSatKeyFrVcm(record);
+  if (satKey == kNoKey) {
+    constexpr int kNumberColumns = 9;
+    TraceLine()
+        .text("AddRecToMem: Unable to make a key for satellite number ")
+        .number(record.satNum, kNumberColumns)
+        .text(" and its epoch.")
+        .error();
+  }
+  return satKey;
+}
+
 struct NodeRelease {
   void operator()(VcmBinTree* node) const { freeVcmBinTree(node); }
 };
@@ -53,7 +67,7 @@ std::int64_t AddVcmToMem(const VcmRecord& record) {
     return kNoKey;
   }
   const bool direct = usesDirectAddresses();
-  const std::int64_t satKey = direct ? AddDMA(record) : createSatKeyFrVcm(record);
+  const std::int64_t satKey = direct ? AddDMA(record) : makeKey(record);
   if (satKey == kNoKey) {
     return kNoKey;
   }

@@ -1,0 +1,41 @@
+/* The header compiles as C99, and its functions work from C. */
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+#include "vcm/Vcm.h"
+
+static void require(int condition, const char* what) {
+  if (!condition) {
+    fprintf(stderr, "failed: %s\n", what);
+    exit(1);
+  }
+}
+
+int main(int argc, char** argv) {
+  char info[VCM_INFO_LENGTH];
+  char texts[VCM_CHAR_ARRAY_LENGTH];
+  double numbers[VCM_NUM_ARRAY_LENGTH];
+  int64_t key = 0;
+  int64_t* keys = NULL;
+
+  require(argc == 2, "one argument, a file of messages");
+  require(VcmInit() == 0, "VcmInit");
+  VcmGetInfo(info);
+  require(memcmp(info, "Vcm ", 4) == 0, "VcmGetInfo");
+  require(VcmLoadFile(argv[1]) == 0, "VcmLoadFile");
+  require(VcmGetCount() == 300, "VcmGetCount");
+  keys = malloc((size_t)VcmGetCount() * sizeof *keys);
+  require(keys != NULL, "memory");
+  VcmGetLoaded(VCM_ORDER_SATELLITE, keys);
+  require(VcmGetSatKeyML(1, &key) == keys[0] && key == keys[0], "VcmGetSatKeyML");
+  VcmFieldsToSatKeyML(1, "2028206120431.384", &key);
+  require(key == keys[0], "VcmFieldsToSatKeyML");
+  require(VcmRetrieveAllData(key, texts, numbers) == 0, "VcmRetrieveAllData");
+  require(numbers[VCM_NUM_SATNUM] == 1.0, "satellite number");
+  require(memcmp(texts + VCM_CHAR_INTLDES, "89021F  ", 8) == 0, "designator");
+  require(VcmRemoveSat(key) == 0 && VcmRemoveSat(key) == 2, "VcmRemoveSat");
+  require(VcmRemoveAllSats() == 0 && VcmGetCount() == 0, "VcmRemoveAllSats");
+  free(keys);
+  return 0;
+}

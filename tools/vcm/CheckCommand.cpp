@@ -1,0 +1,107 @@
+// vcm check: what is wrong with files.
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <atomic>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "Command.h"
+#include "Findings.h"
+#include "Host/HostCore.h"
+#include "Inputs.h"
+#include "Progress.h"
+#include "Screen.h"
+#include "StandardOutput.h"
+#include "Trace.h"
+#include "VCM/VcmCardReading/InputFileReader.h"
+#include "VCM/VcmTree/Store.h"
+
+namespace vcmtool {
+
+namespace {
+
+constexpr const char* kFooter =
+    R"(Each finding is a line FILE:LINE: REASON. LINE is the line that broke the
+message or, when a value is out of its limits, the message's first line. What
+begins with "warning:" did not keep the message out. A line of counts follows,
+unless --quiet is given. Every FILE is judged alone.
+
+Examples:
+  vcm check catalogue.vcm
+  vcm check -q *.vcm && echo all good)";
+
+// The static reader fills a store of its own, apart from the shared library's. A file that switched
+// to direct addresses must not do so for the next one.
+void startAfresh() {
+  constexpr std::int32_t kOrdinaryKeys = 0;
+  std::int32_t status = vcm::kStored;
+  vcm::VcmEmptyTree(vcm::mediaVcm, status);
+  elsetkeymodeset(&kOrdinaryKeys);
+}
+
+void writeTally(StandardOutput& output, std::string_view title, const Tally& tally) {
+  fmt::format_to(std::back_inserter(output.buffer()),
+                 "{}: loaded {}, duplicate {}, bad {}, unreadable fields {}\n", title, tally.loaded,
+                 tally.duplicate, tally.bad, tally.unreadable);
+  output.lineDone();
+}
+
+// What all files come to.
+struct Verdict {
+  Tally tally;
+  bool unopened = false;
+
+  ExitCode exitCode() const { return unopened ? kFailed : tally.bad > 0 ? kBadInput : kFine; }
+};
+
+void checkFile(const std::string& file, bool quiet, StandardOutput& output,
+               std::atomic<std::int64_t>& seen, Verdict& verdict) {
+  startAfresh();
+  Findings findings(output, seen);
+  // The reader's own count line leaves out what is refused; the tally below takes its place.
+  const Trace trace([&findings](bool isError, std::string_view line) {
+    if (isError && !findings.reason(line)) {
+      printMessage(line);
+    }
+  });
+  const std::int32_t code = vcm::ReadVcmsFrFile(file, &findings);
+  verdict.tally += findings.tally();
+  if (code != 0) {
+    reportUnopened(file, code);
+    verdict.unopened = true;
+  } else if (!quiet) {
+    writeTally(output, file, findings.tally());
+  }
+}
+
+ExitCode check(const Inputs& inputs) {
+  StandardOutput output;
+  Verdict verdict;
+  {
+    std::atomic<std::int64_t> seen = 0;
+    Progress progress([&seen] { return seen.load(); });
+    for (const std::string& file : inputs.files) {
+      progress.file(file);
+      checkFile(file, inputs.quiet, output, seen, verdict);
+    }
+  }
+  if (inputs.files.size() > 1 && !inputs.quiet) {
+    writeTally(output, "total", verdict.tally);
+  }
+  return output.finish(verdict.exitCode());
+}
+
+}  // namespace
+
+void addCheckCommand(CLI::App& program, ExitCode& exitCode) {
+  const auto inputs = std::make_shared<Inputs>();
+  CLI::App* const command =
+      program.add_subcommand("check", "Report bad messages, duplicates and unreadable fields");
+  addInputs(*command, *inputs);
+  command->footer(kFooter);
+  command->callback([inputs, &exitCode] { exitCode = check(*inputs); });
+}
+
+}  // namespace vcmtool

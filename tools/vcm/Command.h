@@ -1,0 +1,26 @@
+// The commands of the program, one file each.
+#ifndef VCM_TOOLS_COMMAND_H
+#define VCM_TOOLS_COMMAND_H
+
+namespace CLI {
+class App;
+}
+
+namespace vcmtool {
+
+// What the program ends with. The worst of several is the greatest.
+enum ExitCode : int {
+  kFine = 0,
+  kBadInput = 1,  // something in the input was bad; the rest was worked on
+  kFailed = 2     // wrong usage, or a file that cannot be read or written
+};
+
+// Each adds its command. When the command line names it, the command runs as parsing ends and
+// leaves its exit code behind.
+void addCheckCommand(CLI::App& program, ExitCode& exitCode);
+void addConvertCommand(CLI::App& program, ExitCode& exitCode);
+void addListCommand(CLI::App& program, ExitCode& exitCode);
+
+}  // namespace vcmtool
+
+#endif

@@ -1,0 +1,73 @@
+// vcm convert: messages of any form to multi-line ones.
+#include <CLI/CLI.hpp>
+#include <cerrno>
+#include <memory>
+#include <string>
+
+#include "Command.h"
+#include "Inputs.h"
+#include "Loading.h"
+#include "OutputFile.h"
+#include "Saving.h"
+#include "Screen.h"
+
+namespace vcmtool {
+
+namespace {
+
+constexpr const char* kFooter =
+    R"(Messages of all files go into OUT by ascending key (satellite number, then
+epoch), each once. Bad messages are left out; OUT is not touched when a file
+cannot be read or OUT cannot be written in full. OUT may be one of the files.
+
+Examples:
+  vcm convert today.one -o today.vcm
+  vcm convert monday.vcm tuesday.one -o both.vcm
+  vcm convert -q old.vcm -o old.vcm           sorted, duplicates dropped
+  vcm convert -q today.one -o - | gzip > today.vcm.gz)";
+
+struct ConvertOptions {
+  Inputs inputs;
+  std::string output;
+};
+
+int write(const std::string& name) {
+  OutputFile file;
+  if (const int code = file.open(name); code != 0) {
+    return code;
+  }
+  if (const int code = saveMessages(file.descriptor()); code != 0) {
+    return code;
+  }
+  return file.commit();
+}
+
+ExitCode convert(const ConvertOptions& options) {
+  const ExitCode loaded = loadFiles(options.inputs);
+  if (loaded == kFailed) {
+    return kFailed;
+  }
+  const int code = write(options.output);
+  // A reader that has seen enough is no failure.
+  if (code == 0 || code == EPIPE) {
+    return loaded;
+  }
+  printFailure(options.output, code);
+  return kFailed;
+}
+
+}  // namespace
+
+void addConvertCommand(CLI::App& program, ExitCode& exitCode) {
+  const auto options = std::make_shared<ConvertOptions>();
+  CLI::App* const command =
+      program.add_subcommand("convert", "Write the messages of files as multi-line messages");
+  addInputs(*command, options->inputs);
+  command->add_option("-o,--output", options->output, "File to write; - is standard output")
+      ->required()
+      ->type_name("OUT");
+  command->footer(kFooter);
+  command->callback([options, &exitCode] { exitCode = convert(*options); });
+}
+
+}  // namespace vcmtool

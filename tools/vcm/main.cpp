@@ -1,0 +1,68 @@
+// vcm: VCM files on the command line.
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <csignal>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "Command.h"
+#include "vcm/Vcm.h"
+
+namespace {
+
+constexpr const char* kExamples = R"(Examples:
+  vcm list catalogue.vcm                 what is in a file
+  vcm check catalogue.vcm                what is wrong with it, line by line
+  vcm convert today.one -o today.vcm     one-line messages to multi-line ones
+  vcm list --help                        more about a command
+
+Exit codes: 0 fine, 1 something in the input was bad, 2 wrong usage or a file
+that cannot be read or written.)";
+
+std::string versions() {
+  std::array<char, VCM_INFO_LENGTH> info;
+  VcmGetInfo(info.data());
+  std::string_view library(info.data(), info.size());
+  library = library.substr(0, library.find_last_not_of(' ') + 1);
+  return fmt::format("vcm {}\n{}", VCM_PROGRAM_VERSION, library);
+}
+
+std::string usageError(const CLI::App* app, const CLI::Error& error) {
+  return fmt::format("vcm: {}\nTry: {} --help\n", error.what(),
+                     app->get_parent() == nullptr ? app->get_name() : "vcm " + app->get_name());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // A reader that went away, or a file that may not grow, is then what a write reports.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+  VcmInit();
+
+  vcmtool::ExitCode exitCode = vcmtool::kFine;
+  CLI::App program("Works on files of SP Vector/Covariance Messages (VCMs).", "vcm");
+  program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+  program.get_formatter()->label("SUBCOMMANDS", "COMMANDS");
+  program.set_version_flag("--version", versions, "Show the versions of program and library");
+  program.footer(kExamples);
+  program.failure_message(usageError);
+  for (const auto addCommand :
+       {vcmtool::addListCommand, vcmtool::addConvertCommand, vcmtool::addCheckCommand}) {
+    addCommand(program, exitCode);
+  }
+
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return program.exit(error) == 0 ? vcmtool::kFine : vcmtool::kFailed;
+  }
+  if (program.get_subcommands().empty()) {
+    std::cerr << program.help();
+    return vcmtool::kFailed;
+  }
+  return exitCode;
+}
