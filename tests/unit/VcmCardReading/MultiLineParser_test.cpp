@@ -94,6 +94,7 @@ TEST(MultiLineParser, LinesThatAreNotLookedAt) {
 
 // What each field reads as: one row per way to write it.
 TEST(MultiLineParser, Fields) {
+  // clang-format off
   const struct {
     const char* what;
     int line;
@@ -104,46 +105,31 @@ TEST(MultiLineParser, Fields) {
       {"nine digits", 4, 22, "123456789", [](auto& r) { return r.satNum == 123456789; }},
       {"no designator", 4, 58, "           ", [](auto& r) { return r.intlDes.isBlank(); }},
       {"long piece", 4, 58, "1998-067ABC", [](auto& r) { return r.intlDes.view() == "98067ABC"; }},
-      {"satellite unreadable: the designator is not read", 4, 22, "12X",
-       [](auto& r) { return r.satNum == 0 && r.intlDes.isBlank(); }},
+      {"satellite unreadable: the designator is not read", 4, 22, "12X", [](auto& r) { return r.satNum == 0 && r.intlDes.isBlank(); }},
       {"year of two digits stays", 6, 22, "  28", [](auto& r) { return r.epoch.year == 28; }},
-      {"month and day of month are not read", 6, 32, "99 XXX",
-       [](auto& r) { return r.epoch.dayOfYear == 206; }},
+      {"month and day of month are not read", 6, 32, "99 XXX", [](auto& r) { return r.epoch.dayOfYear == 206; }},
       {"seconds without a point", 6, 46, "000031", [](auto& r) { return r.epoch.seconds == 31.0; }},
-      {"minute unreadable: no seconds, no revolution", 6, 43, "XX",
-       [](auto& r) { return r.epoch.hour == 12 && r.epoch.seconds == 0.0 && r.epochRev == 0; }},
-      {"letter in a position: from there on zero", 7, 37, "     3239.3X607467",
-       [](auto& r) {
-         return r.j2kPos == vcm::Vector3{-11044.90753274, 0.0, 0.0};
-       }},
-      {"implied decimals", 7, 20, "     -1104490753",
-       [](auto& r) { return r.j2kPos[0] == -11.04490753; }},
-      {"blanks inside", 10, 20, " 2. 903 5961 021",
-       [](auto& r) { return r.eciVel[0] == 2.9035961021; }},
-      {"tabs are blanks", 10, 20, "\t\t\t\t\t\t\t\t\t\t\t\t\t2.5",
-       [](auto& r) { return r.eciVel[0] == 2.5; }},
+      {"minute unreadable: no seconds, no revolution", 6, 43, "XX", [](auto& r) { return r.epoch.hour == 12 && r.epoch.seconds == 0.0 && r.epochRev == 0; }},
+      {"letter in a position: from there on zero", 7, 37, "     3239.3X607467", [](auto& r) { return r.j2kPos == vcm::Vector3{-11044.90753274, 0.0, 0.0}; }},
+      {"implied decimals", 7, 20, "     -1104490753", [](auto& r) { return r.j2kPos[0] == -11.04490753; }},
+      {"blanks inside", 10, 20, " 2. 903 5961 021", [](auto& r) { return r.eciVel[0] == 2.9035961021; }},
+      {"tabs are blanks", 10, 20, "\t\t\t\t\t\t\t\t\t\t\t\t\t2.5", [](auto& r) { return r.eciVel[0] == 2.5; }},
       {"NONE", 13, 18, "NONE  ", [](auto& r) { return r.geoName.view() == "2-BODY"; }},
       {"blank name", 13, 18, "      ", [](auto& r) { return r.geoName.view() == "2-BODY"; }},
-      {"NONE that begins late", 13, 18, " NONE ",
-       [](auto& r) { return r.geoName.view() == "NONE  "; }},
-      {"drag model shifted left", 13, 40, "   JACCHIA  ",
-       [](auto& r) { return r.dragModel.view() == "JACCHIA     "; }},
+      {"NONE that begins late", 13, 18, " NONE ", [](auto& r) { return r.geoName.view() == "NONE  "; }},
+      {"drag model shifted left", 13, 40, "   JACCHIA  ", [](auto& r) { return r.dragModel.view() == "JACCHIA     "; }},
       {"dropped zero", 15, 58, "-.529024E-10", [](auto& r) { return r.bDot == -0.529024e-10; }},
-      {"ten implied decimals", 15, 28, "       112473",
-       [](auto& r) { return r.bTerm == 112473e-10; }},
+      {"ten implied decimals", 15, 28, "       112473", [](auto& r) { return r.bTerm == 112473e-10; }},
       {"blank field", 17, 25, "             ", [](auto& r) { return r.thrustAccel == 0.0; }},
       {"asterisks", 18, 21, "***", [](auto& r) { return r.f10 == 0 && r.avgF10 == 0; }},
       {"fraction of TAI-UTC", 19, 16, " 36", [](auto& r) { return r.taiMinusUtc == 36.0; }},
-      {"rate in milliseconds", 19, 63, "-0.123",
-       [](auto& r) { return r.ut1Rate == -0.123 * 0.001; }},
-      {"Fortran exponent", 24, 52, "0.265D-13",
-       [](auto& r) { return r.errorControl == 0.265e-13; }},
+      {"rate in milliseconds", 19, 63, "-0.123", [](auto& r) { return r.ut1Rate == -0.123 * 0.001; }},
+      {"Fortran exponent", 24, 52, "0.265D-13", [](auto& r) { return r.errorControl == 0.265e-13; }},
       {"second size is not read", 27, 45, "77", [](auto& r) { return r.covMtxSize == 9; }},
-      {"no covariance", 27, 42, " 0",
-       [](auto& r) { return r.covMtxSize == 0 && r.covMtx == vcm::CovarianceMatrix{}; }},
-      {"negative size", 27, 42, "-1",
-       [](auto& r) { return r.covMtxSize == -1 && r.covMtx == vcm::CovarianceMatrix{}; }},
+      {"no covariance", 27, 42, " 0", [](auto& r) { return r.covMtxSize == 0 && r.covMtx == vcm::CovarianceMatrix{}; }},
+      {"negative size", 27, 42, "-1", [](auto& r) { return r.covMtxSize == -1 && r.covMtx == vcm::CovarianceMatrix{}; }},
   };
+  // clang-format on
   TraceCapture trace;
   for (const auto& c : cases) {
     const Lines message = withText(goldenMessage(), c.line, c.column, c.text);

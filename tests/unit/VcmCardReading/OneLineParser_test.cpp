@@ -36,42 +36,32 @@ TEST(OneLineParser, AgreesWithTheMultiLineFormOfTheSameMessage) {
 }
 
 TEST(OneLineParser, Fields) {
+  // clang-format off
   const struct {
     const char* what;
     int column;
     std::string_view text;
     std::function<bool(const VcmRecord&)> holds;
   } cases[] = {
-      {"leading blank in the seconds", 18, " 5.123",
-       [](auto& r) { return r.epoch.seconds == 5.123; }},
-      {"leading zero in the seconds", 18, "05.123",
-       [](auto& r) { return r.epoch.seconds == 5.123; }},
+      {"leading blank in the seconds", 18, " 5.123", [](auto& r) { return r.epoch.seconds == 5.123; }},
+      {"leading zero in the seconds", 18, "05.123", [](auto& r) { return r.epoch.seconds == 5.123; }},
       {"seconds without a point", 18, " 05123", [](auto& r) { return r.epoch.seconds == 5123.0; }},
       {"blank geopotential", 343, "      ", [](auto& r) { return r.geoName.view() == "2-BODY"; }},
       {"NONE", 343, "NONE  ", [](auto& r) { return r.geoName.view() == "2-BODY"; }},
-      {"NONE that begins late", 343, " NONE ",
-       [](auto& r) { return r.geoName.view() == "NONE  "; }},
+      {"NONE that begins late", 343, " NONE ", [](auto& r) { return r.geoName.view() == "NONE  "; }},
       {"free-form bDot", 400, "  1.5E-10    ", [](auto& r) { return r.bDot == 1.5e-10; }},
-      {"bDot without a point has no implied one", 400, "     15      ",
-       [](auto& r) { return r.bDot == 15.0; }},
-      {"bDot that fills its columns", 400, "-0.529024E-10",
-       [](auto& r) { return r.bDot == -0.529024e-10; }},
-      {"asterisks", 414, "*************",
-       [](auto& r) { return r.agom == 0.0 && r.edr == 0.39e-3; }},
-      {"implied decimals of agom", 414, "       358704",
-       [](auto& r) { return r.agom == 358704e-10; }},
+      {"bDot without a point has no implied one", 400, "     15      ", [](auto& r) { return r.bDot == 15.0; }},
+      {"bDot that fills its columns", 400, "-0.529024E-10", [](auto& r) { return r.bDot == -0.529024e-10; }},
+      {"asterisks", 414, "*************", [](auto& r) { return r.agom == 0.0 && r.edr == 0.39e-3; }},
+      {"implied decimals of agom", 414, "       358704", [](auto& r) { return r.agom == 358704e-10; }},
       {"TAI-UTC with a fraction", 479, "3.5", [](auto& r) { return r.taiMinusUtc == 3.5; }},
       {"rate in milliseconds", 492, "-0.123", [](auto& r) { return r.ut1Rate == -0.123 * 0.001; }},
-      {"size that no matrix has", 670, "10",
-       [](auto& r) { return r.covMtxSize == 0 && r.covMtx == vcm::CovarianceMatrix{}; }},
+      {"size that no matrix has", 670, "10", [](auto& r) { return r.covMtxSize == 0 && r.covMtx == vcm::CovarianceMatrix{}; }},
       {"second size is not read", 673, " 3", [](auto& r) { return r.covMtxSize == 9; }},
-      {"list that ends early", 794, std::string_view("nonsense"),
-       [](auto& r) {
-         return vcm::Vcm2dTo1d(r.covMtx)[7] != 0.0 && vcm::Vcm2dTo1d(r.covMtx)[8] == 0.0;
-       }},
-      {"designator without its hyphen", 1492, "98?067A  ",
-       [](auto& r) { return r.intlDes.view() == "98067A  "; }},
+      {"list that ends early", 794, std::string_view("nonsense"), [](auto& r) { return vcm::Vcm2dTo1d(r.covMtx)[7] != 0.0 && vcm::Vcm2dTo1d(r.covMtx)[8] == 0.0; }},
+      {"designator without its hyphen", 1492, "98?067A  ", [](auto& r) { return r.intlDes.view() == "98067A  "; }},
   };
+  // clang-format on
   TraceCapture trace;
   for (const auto& c : cases) {
     std::string line = goldenOneLine();

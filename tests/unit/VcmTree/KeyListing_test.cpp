@@ -1,0 +1,129 @@
+#include "VCM/VcmTree/KeyListing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <tuple>
+#include <vector>
+
+#include "VCM/VcmTree/Keys.h"
+#include "VCM/VcmTree/Store.h"
+#include "support/RandomRecords.h"
+#include "support/ReplaceableHost.h"
+
+using vcm::mediaVcm;
+using vcm::VcmRecord;
+
+namespace {
+
+using Keys = std::vector<std::int64_t>;
+
+constexpr std::int32_t kOrders[] = {0,
+                                    1,
+                                    2,
+                                    3,
+                                    4,
+                                    -1,
+                                    std::numeric_limits<std::int32_t>::min(),
+                                    std::numeric_limits<std::int32_t>::max()};
+
+struct Stored {
+  std::int64_t key;
+  VcmRecord record;
+};
+
+// What a listing should be; `stored` comes in the order of loading.
+Keys sorted(std::vector<Stored> stored, std::int32_t order) {
+  const auto rank = [order](const Stored& s) {
+    const bool bySatellite = order == vcm::kBySatellite || order == vcm::kBySatelliteReverse;
+    return std::tuple(bySatellite ? s.record.satNum : 0,
+                      bySatellite ? vcm::inputDateToDs50(s.record.epoch) : 0.0,
+                      order == vcm::kAsLoaded ? 0 : s.key);
+  };
+  std::stable_sort(stored.begin(), stored.end(),
+                   [&](const Stored& a, const Stored& b) { return rank(a) < rank(b); });
+  Keys keys(stored.size());
+  std::transform(stored.begin(), stored.end(), keys.begin(), [](auto& s) { return s.key; });
+  if (order == vcm::kBySatelliteReverse) {
+    std::reverse(keys.begin(), keys.end());
+  }
+  return keys;
+}
+
+// Lists behind one key that is there already, and looks that nothing else is touched.
+Keys listed(std::int32_t order) {
+  constexpr std::int64_t kUntouched = -77;
+  Keys keys(static_cast<std::size_t>(vcm::VcmGetNumOfTreeNodes(mediaVcm)) + 2, kUntouched);
+  std::int32_t count = 1;
+  if (!vcm::listingEntersGate(order)) {
+    vcm::VcmBeginRead();
+  }
+  vcm::VcmGetTreeKeys(mediaVcm, count, keys.data(), order);
+  if (!vcm::listingEntersGate(order)) {
+    vcm::VcmEndRead();
+  }
+  EXPECT_EQ(count, static_cast<std::int32_t>(keys.size()) - 1);
+  EXPECT_TRUE(keys.front() == kUntouched && keys.back() == kUntouched);
+  return {keys.begin() + 1, keys.end() - 1};
+}
+
+void empty() {
+  useOrdinaryKeys();
+  std::int32_t status = vcm::kStored;
+  vcm::VcmEmptyTree(mediaVcm, status);
+}
+
+// Random adds, updates and removals: the store agrees with a list, its listings with a sort.
+void agreesWithASort(std::uint64_t seed, bool directKeysToo) {
+  RandomRecords random(seed);
+  VcmRecord record = random.nextSmall(9);
+  std::vector<Stored> stored;
+  empty();
+  for (int step = 0; step < 1000; ++step) {
+    SCOPED_TRACE("seed " + std::to_string(seed) + " step " + std::to_string(step));
+    if (random.integer(0, 3) > 0) {
+      record = random.integer(0, 1) == 0 ? random.nextSmall(9) : random.next();
+    }
+    record.eciPos[1] = random.integer(0, 9);  // often another state of the same epoch
+    if (directKeysToo && random.integer(0, 1) == 0) {
+      useDirectAddresses();
+    }
+    const std::int64_t key = vcm::AddVcmToMem(record);
+    useOrdinaryKeys();
+    ASSERT_NE(key, vcm::kNoKey);
+    if (key != vcm::kDuplicateKey) {
+      stored.push_back({key, record});
+    }
+    const auto any = stored.begin() + random.integer(0, static_cast<int>(stored.size()) - 1);
+    std::int32_t status = vcm::kStored;
+    if (step % 5 == 1) {
+      any->record = random.nextSmall(9);
+      vcm::VcmUpdateRec(mediaVcm, any->key, any->record, status);
+    } else if (step % 5 < 4) {
+      vcm::VcmRemoveNode(mediaVcm, any->key, status);
+      stored.erase(any);
+    }
+    ASSERT_EQ(status, vcm::kStored);
+  }
+  for (const std::int32_t order : kOrders) {
+    EXPECT_EQ(listed(order), sorted(stored, order)) << "order " << order << " seed " << seed;
+  }
+  for (const auto& [key, expected] : stored) {
+    vcm::VcmFindRec(mediaVcm, key, record);
+    EXPECT_TRUE(vcm::equal(record, expected)) << "key " << key << " seed " << seed;
+  }
+  empty();
+}
+
+TEST(KeyListing, AgreesWithASort) { agreesWithASort(1, false); }
+TEST(KeyListing, OfBothKindsOfKeysAgreesWithASort) { agreesWithASort(2, true); }
+
+TEST(KeyListing, OfAnEmptyStore) {
+  empty();
+  for (const std::int32_t order : kOrders) {
+    EXPECT_EQ(listed(order), Keys{}) << "order " << order;
+  }
+}
+
+}  // namespace
