@@ -8,11 +8,9 @@
 #include <thread>
 #include <vector>
 
-#include "VCM/VcmTree/KeyListing.h"
 #include "VCM/VcmTree/Keys.h"
-#include "VCM/VcmTree/Store.h"
 #include "support/RandomRecords.h"
-#include "support/ReplaceableHost.h"
+#include "support/StoreAccess.h"
 
 using vcm::mediaVcm;
 using vcm::VcmRecord;
@@ -53,8 +51,7 @@ void find(std::int64_t key, bool lasts) {
 class StoreStress : public testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
-    empty();
-    useOrdinaryKeys();
+    emptyStore();
     for (int satNum = 1; satNum <= kLasting; ++satNum) {
       if (GetParam() && satNum > kLasting / 2) {
         useDirectAddresses();
@@ -62,14 +59,7 @@ class StoreStress : public testing::TestWithParam<bool> {
       lasting_[satNum] = vcm::AddVcmToMem(recordOf(satNum, 0));
     }
   }
-  void TearDown() override {
-    empty();
-    useOrdinaryKeys();
-  }
-  static void empty() {
-    std::int32_t status = vcm::kStored;
-    vcm::VcmEmptyTree(mediaVcm, status);
-  }
+  void TearDown() override { emptyStore(); }
 
   // Adds and removes records of a satellite of its own; updates those that last.
   void write(int writer) {
@@ -165,11 +155,11 @@ TEST_P(StoreStress, EmptyingAmongAddsAndReads) {
     }
   });
   while (adding) {
-    empty();
+    emptyStore();
   }
   adder.join();
   reader.join();
-  empty();
+  emptyStore();
   EXPECT_EQ(vcm::VcmGetNumOfTreeNodes(mediaVcm), 0);
 }
 

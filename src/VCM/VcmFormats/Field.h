@@ -129,11 +129,7 @@ struct Characters {
 // before the shift to the left, deliberately: a shifted NONE stays a name.
 inline constexpr std::string_view kTwoBody = "2-BODY";
 
-struct ShiftedCharacters {
-  template <std::size_t N>
-  static void write(const FixedText<N>& value, char* out) {
-    copyPadded(value.view(), out, N);
-  }
+struct ShiftedCharacters : Characters {
   template <std::size_t N>
   static bool read(std::string_view text, FixedText<N>& value) {
     value.assign(text);

@@ -7,7 +7,7 @@ namespace vcm {
 // The flag and the count are written by one side and read by the other in opposite order, so they
 // need the single total order of sequentially consistent operations.
 
-void ReadGate::beginRead() {
+void ReadGate::lock_shared() {
   for (;;) {
     while (isUpdating.load() != 0) {
       std::this_thread::yield();
@@ -20,9 +20,9 @@ void ReadGate::beginRead() {
   }
 }
 
-void ReadGate::endRead() { numReads.fetch_sub(1); }
+void ReadGate::unlock_shared() { numReads.fetch_sub(1); }
 
-void ReadGate::beginUpdate() {
+void ReadGate::lock() {
   updatenote.lock();
   isUpdating.store(1);
   while (numReads.load() > 0) {
@@ -30,7 +30,7 @@ void ReadGate::beginUpdate() {
   }
 }
 
-void ReadGate::endUpdate() {
+void ReadGate::unlock() {
   isUpdating.store(0);
   updatenote.unlock();
 }

@@ -12,19 +12,20 @@
 #include <atomic>
 #include <cstdint>
 #include <mutex>
+#include <shared_mutex>
 
 namespace vcm {
 
 class ReadGate {
  public:
-  void beginRead();
-  void endRead();
-  void beginUpdate();
-  void endUpdate();
-
   // The gate held for a scope.
-  class Reading;
-  class Updating;
+  using Reading = std::shared_lock<ReadGate>;
+  using Updating = std::unique_lock<ReadGate>;
+
+  void lock_shared();  // enter and leave as a reader
+  void unlock_shared();
+  void lock();  // enter and leave as a writer
+  void unlock();
 
  private:
   // Apart from each other, so that readers counting do not slow down those that look at the flag.
@@ -32,28 +33,6 @@ class ReadGate {
   alignas(kCacheLine) std::atomic<std::int32_t> numReads{0};
   alignas(kCacheLine) std::atomic<std::int32_t> isUpdating{0};
   std::mutex updatenote;
-};
-
-class ReadGate::Reading {
- public:
-  explicit Reading(ReadGate& gate) : gate_(gate) { gate_.beginRead(); }
-  ~Reading() { gate_.endRead(); }
-  Reading(const Reading&) = delete;
-  Reading& operator=(const Reading&) = delete;
-
- private:
-  ReadGate& gate_;
-};
-
-class ReadGate::Updating {
- public:
-  explicit Updating(ReadGate& gate) : gate_(gate) { gate_.beginUpdate(); }
-  ~Updating() { gate_.endUpdate(); }
-  Updating(const Updating&) = delete;
-  Updating& operator=(const Updating&) = delete;
-
- private:
-  ReadGate& gate_;
 };
 
 }  // namespace vcm

@@ -266,30 +266,30 @@ void VcmEmptyTree(VcmMedia& media, std::int32_t& status) {
 // ---- the gate
 // ------------------------------------------------------------------------------------
 
-void VcmBeginRead() { storeGate.beginRead(); }
-void VcmEndRead() { storeGate.endRead(); }
+void VcmBeginRead() { storeGate.lock_shared(); }
+void VcmEndRead() { storeGate.unlock_shared(); }
 
 StoreReading::StoreReading() {
   VcmBeginRead();
-  directAddressGate.beginRead();
+  directAddressGate.lock_shared();
 }
 
 StoreReading::~StoreReading() {
-  directAddressGate.endRead();
+  directAddressGate.unlock_shared();
   VcmEndRead();
 }
 
 BorrowedRecord::BorrowedRecord(const VcmMedia& media, std::int64_t satKey)
     : direct_(isDirectAddress(satKey)) {
   if (direct_) {
-    directAddressGate.beginRead();
+    directAddressGate.lock_shared();
   }
   VcmFindRecPtr(media, satKey, record_);
 }
 
 BorrowedRecord::~BorrowedRecord() {
   if (direct_) {
-    directAddressGate.endRead();
+    directAddressGate.unlock_shared();
   } else {
     VcmEndRead();
   }

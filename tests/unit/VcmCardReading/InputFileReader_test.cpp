@@ -5,26 +5,18 @@
 #include <cerrno>
 #include <string>
 
-#include "VCM/VcmTree/KeyListing.h"
 #include "VCM/VcmTree/Keys.h"
-#include "VCM/VcmTree/Store.h"
 #include "support/Messages.h"
-#include "support/ReplaceableHost.h"
+#include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
 namespace {
 
 class InputFileReader : public ::testing::Test {
  protected:
-  void SetUp() override { empty(); }
-  void TearDown() override { empty(); }
+  void SetUp() override { emptyStore(); }
+  void TearDown() override { emptyStore(); }
 
-  static void empty() {
-    std::int32_t status = 0;
-    vcm::VcmEmptyTree(vcm::mediaVcm, status);
-    useOrdinaryKeys();
-  }
-  static std::int32_t stored() { return vcm::VcmGetNumOfTreeNodes(vcm::mediaVcm); }
   static vcm::VcmRecord record(std::int32_t satNum) {
     vcm::VcmRecord found;
     vcm::VcmFindRec(vcm::mediaVcm, vcm::VcmSatKeyGet(vcm::mediaVcm, satNum), found);
@@ -32,7 +24,7 @@ class InputFileReader : public ::testing::Test {
   }
   // Reads a content as a file and expects its line of counts.
   void expectCounts(const std::string& content, const std::string& counts, const char* what) {
-    empty();
+    emptyStore();
     const TemporaryFile file(content);
     EXPECT_EQ(vcm::ReadVcmsFrFile(file.path(), nullptr), 0) << what;
     EXPECT_EQ(trace_.takeInfos(), Lines{counts}) << what;
@@ -87,11 +79,11 @@ TEST_F(InputFileReader, CountsWhatItFinds) {
 TEST_F(InputFileReader, TruncatedFiles) {
   const std::string first = numbered(7);
   for (std::size_t length = 0; length <= first.size(); length += 3) {
-    empty();
+    emptyStore();
     const TemporaryFile file(numbered(3) + first.substr(0, length));
     ASSERT_EQ(vcm::ReadVcmsFrFile(file.path()), 0) << length;
     ASSERT_EQ(record(3).satNum, 3) << length;
-    ASSERT_LE(stored(), 2) << length;
+    ASSERT_LE(storedCount(), 2) << length;
   }
 }
 
@@ -143,7 +135,7 @@ TEST_F(InputFileReader, OpenFailures) {
   EXPECT_EQ(vcm::ReadVcmsFrFile("/tmp"), EISDIR);
   const TemporaryFile main(numbered(1) + "VCMFIL /nowhere/at/all\n");
   EXPECT_EQ(vcm::ReadVcmsFrFile(main.path()), ENOENT);
-  EXPECT_EQ(stored(), 0) << "nothing of the file is loaded";
+  EXPECT_EQ(storedCount(), 0) << "nothing of the file is loaded";
   EXPECT_TRUE(trace_.takeInfos().empty()) << "and no counts are given";
 }
 

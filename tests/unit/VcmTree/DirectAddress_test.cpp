@@ -9,10 +9,8 @@
 #include <vector>
 
 #include "Host/HostCore.h"
-#include "VCM/VcmTree/KeyListing.h"
 #include "VCM/VcmTree/Keys.h"
-#include "VCM/VcmTree/Store.h"
-#include "support/ReplaceableHost.h"
+#include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
 using vcm::DmaObject;
@@ -38,28 +36,13 @@ const Answers kOtherType{"", kDead.findPointer, kDead.update,
                          "RemoveDMA: This DMA object isn't a correct object."};
 
 VcmRecord satellite(std::int32_t satNum) {
-  VcmRecord record;
-  record.satNum = satNum;
-  record.epoch = {2024, 100, 12, 0, 0.0};
+  VcmRecord record = satelliteAt(satNum);
   record.extraLines.assign(1, vcm::ExtraLine("MANEUV"));
   return record;
 }
 
 std::int64_t keyAt(const void* address) { return reinterpret_cast<std::int64_t>(address) * 10; }
 DmaObject& objectOf(std::int64_t key) { return *static_cast<DmaObject*>(keytocptr(&key)); }
-std::int32_t count() { return vcm::VcmGetNumOfTreeNodes(mediaVcm); }
-
-std::int32_t update(std::int64_t key, const VcmRecord& record) {
-  std::int32_t status = -1;
-  vcm::VcmUpdateRec(mediaVcm, key, record, status);
-  return status;
-}
-
-std::int32_t remove(std::int64_t key) {
-  std::int32_t status = -1;
-  vcm::VcmRemoveNode(mediaVcm, key, status);
-  return status;
-}
 
 // The number of the satellite found, by copy and through the pointer, with the messages of both.
 std::int32_t find(std::int64_t key, const char* findMessage = "", const char* pointerMessage = "") {
@@ -79,21 +62,15 @@ std::int32_t find(std::int64_t key, const char* findMessage = "", const char* po
 class DirectAddress : public testing::Test {
  protected:
   void SetUp() override {
-    empty();
+    emptyStore();
     useDirectAddresses();
   }
-  void TearDown() override { empty(); }
-  static void empty() {
-    useOrdinaryKeys();
-    std::int32_t status = vcm::kStored;
-    vcm::VcmEmptyTree(mediaVcm, status);
-    EXPECT_EQ(status, vcm::kStored);
-  }
+  void TearDown() override { EXPECT_EQ(emptyStore(), vcm::kStored); }
   void expectAnswers(std::int64_t key, const Answers& answers) {
     EXPECT_EQ(find(key, answers.find, answers.findPointer), vcm::kNoSatellite) << "key " << key;
     EXPECT_EQ(trace_.takeErrors(), Messages{}) << "key " << key;
-    EXPECT_EQ(update(key, satellite(1)), 2) << "key " << key;
-    EXPECT_EQ(remove(key), 2) << "key " << key;
+    EXPECT_EQ(updateStored(key, satellite(1)), 2) << "key " << key;
+    EXPECT_EQ(removeStored(key), 2) << "key " << key;
     EXPECT_EQ(trace_.takeErrors(), (Messages{answers.update, answers.remove})) << "key " << key;
   }
   TraceCapture trace_;
@@ -104,19 +81,19 @@ TEST_F(DirectAddress, IdenticalRecordsLiveApart) {
   const std::int64_t twin = vcm::AddVcmToMem(satellite(5));
   ASSERT_TRUE(key > 0 && twin > 0 && key != twin);
   EXPECT_TRUE(objectOf(key).self == &objectOf(key) && objectOf(key).type == 5);
-  EXPECT_EQ(update(twin, satellite(6)), vcm::kStored);
+  EXPECT_EQ(updateStored(twin, satellite(6)), vcm::kStored);
   EXPECT_EQ(find(key), 5);
   EXPECT_EQ(find(twin), 6);
-  EXPECT_EQ(remove(key), vcm::kStored);
+  EXPECT_EQ(removeStored(key), vcm::kStored);
   EXPECT_EQ(trace_.takeErrors(), Messages{});
   EXPECT_EQ(vcm::GetSatKey(6), twin);
-  EXPECT_EQ(count(), 1);
+  EXPECT_EQ(storedCount(), 1);
 }
 
 TEST_F(DirectAddress, GarbageIsNeverFollowed) {
   const std::int64_t good = vcm::AddVcmToMem(satellite(5));
   const std::int64_t removed = vcm::AddVcmToMem(satellite(5));
-  ASSERT_EQ(remove(removed), vcm::kStored);
+  ASSERT_EQ(removeStored(removed), vcm::kStored);
   std::array<std::int64_t, 6> onStack{};
   const std::int64_t freed = keyAt(std::make_unique<DmaObject>().get());
   DmaObject notOfThePool;
@@ -141,7 +118,7 @@ TEST_F(DirectAddress, GarbageIsNeverFollowed) {
       {keyAt(&notOfThePool), &kDead}};
   for (const auto& [key, answers] : rows) {
     expectAnswers(key, *answers);
-    EXPECT_TRUE(count() == 1 && find(good) == 5) << key;
+    EXPECT_TRUE(storedCount() == 1 && find(good) == 5) << key;
   }
 }
 
@@ -166,10 +143,10 @@ TEST_F(DirectAddress, AReferencedObjectOutlivesItsRecord) {
   for (const std::size_t reference : {0U, 1U}) {
     const std::int64_t key = vcm::AddVcmToMem(satellite(5));
     objectOf(key).references[reference] = &trace_;
-    EXPECT_EQ(remove(key), vcm::kStored);
-    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(removeStored(key), vcm::kStored);
+    EXPECT_EQ(storedCount(), 0);
     EXPECT_EQ(find(key, "", "FindRecPtr: Prop data doesn't exist."), vcm::kNoSatellite);
-    EXPECT_EQ(update(key, satellite(6)), vcm::kStored);
+    EXPECT_EQ(updateStored(key, satellite(6)), vcm::kStored);
     EXPECT_EQ(find(key), 6);
     objectOf(key).references[reference] = nullptr;
     EXPECT_EQ(vcm::RemoveDMA(key), vcm::kGood);
@@ -189,9 +166,9 @@ TEST_F(DirectAddress, NodesOfDeadObjectsAreHarmless) {
   vcm::VcmGetTreeKeys(mediaVcm, listed, keys.data(), vcm::kBySatellite);
   EXPECT_EQ(keys, (std::array{dead, alive}));
   trace_.takeErrors();
-  empty();
+  emptyStore();
   EXPECT_EQ(trace_.takeErrors(), Messages{kDead.remove});
-  EXPECT_EQ(count(), 0);
+  EXPECT_EQ(storedCount(), 0);
 }
 
 }  // namespace

@@ -3,14 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 #include <tuple>
 #include <vector>
 
 #include "VCM/VcmTree/Keys.h"
 #include "VCM/VcmTree/Store.h"
 #include "support/RandomRecords.h"
-#include "support/ReplaceableHost.h"
+#include "support/StoreAccess.h"
 
 using vcm::mediaVcm;
 using vcm::VcmRecord;
@@ -19,14 +18,7 @@ namespace {
 
 using Keys = std::vector<std::int64_t>;
 
-constexpr std::int32_t kOrders[] = {0,
-                                    1,
-                                    2,
-                                    3,
-                                    4,
-                                    -1,
-                                    std::numeric_limits<std::int32_t>::min(),
-                                    std::numeric_limits<std::int32_t>::max()};
+constexpr std::int32_t kOrders[] = {0, 1, 2, 3, 4, -1, INT32_MIN, INT32_MAX};
 
 struct Stored {
   std::int64_t key;
@@ -54,7 +46,7 @@ Keys sorted(std::vector<Stored> stored, std::int32_t order) {
 // Lists behind one key that is there already, and looks that nothing else is touched.
 Keys listed(std::int32_t order) {
   constexpr std::int64_t kUntouched = -77;
-  Keys keys(static_cast<std::size_t>(vcm::VcmGetNumOfTreeNodes(mediaVcm)) + 2, kUntouched);
+  Keys keys(static_cast<std::size_t>(storedCount()) + 2, kUntouched);
   std::int32_t count = 1;
   if (!vcm::listingEntersGate(order)) {
     vcm::VcmBeginRead();
@@ -68,18 +60,12 @@ Keys listed(std::int32_t order) {
   return {keys.begin() + 1, keys.end() - 1};
 }
 
-void empty() {
-  useOrdinaryKeys();
-  std::int32_t status = vcm::kStored;
-  vcm::VcmEmptyTree(mediaVcm, status);
-}
-
 // Random adds, updates and removals: the store agrees with a list, its listings with a sort.
 void agreesWithASort(std::uint64_t seed, bool directKeysToo) {
   RandomRecords random(seed);
   VcmRecord record = random.nextSmall(9);
   std::vector<Stored> stored;
-  empty();
+  emptyStore();
   for (int step = 0; step < 1000; ++step) {
     SCOPED_TRACE("seed " + std::to_string(seed) + " step " + std::to_string(step));
     if (random.integer(0, 3) > 0) {
@@ -113,14 +99,14 @@ void agreesWithASort(std::uint64_t seed, bool directKeysToo) {
     vcm::VcmFindRec(mediaVcm, key, record);
     EXPECT_TRUE(vcm::equal(record, expected)) << "key " << key << " seed " << seed;
   }
-  empty();
+  emptyStore();
 }
 
 TEST(KeyListing, AgreesWithASort) { agreesWithASort(1, false); }
 TEST(KeyListing, OfBothKindsOfKeysAgreesWithASort) { agreesWithASort(2, true); }
 
 TEST(KeyListing, OfAnEmptyStore) {
-  empty();
+  emptyStore();
   for (const std::int32_t order : kOrders) {
     EXPECT_EQ(listed(order), Keys{}) << "order " << order;
   }

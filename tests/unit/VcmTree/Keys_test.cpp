@@ -8,7 +8,7 @@
 
 #include "VCM/VcmTree/KeyListing.h"
 #include "VCM/VcmTree/Store.h"
-#include "support/ReplaceableHost.h"
+#include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
 using vcm::VcmRecord;
@@ -90,11 +90,9 @@ TEST(Keys, ASatelliteIsFoundAtTheFirstNodeFromTheRoot) {
       {{{21, 8}, {11, 7}, {31, 7}, {5, 7}}, 11},   // a node before its smaller keys
       {{{21, 8}, {11, 8}, {31, 7}, {15, 7}}, 15},  // all of the left side before the right
       {{{21, 8}, {11, 8}, {31, 7}}, 31}};
-  useOrdinaryKeys();
   TraceCapture trace;
-  std::int32_t status = vcm::kStored;
   for (const Row& row : rows) {
-    vcm::VcmEmptyTree(vcm::mediaVcm, status);
+    emptyStore();
     for (const auto& [key, satNum] : row.added) {
       const ReplacedHost<&HostReplacements::createsatkey> replaced(
           [k = key](auto...) { return k; });
@@ -107,7 +105,7 @@ TEST(Keys, ASatelliteIsFoundAtTheFirstNodeFromTheRoot) {
             row.keyOfSeven == vcm::kNoKey ? 1U : 0U,
             "GetSatKey: Unable to locate satellite number         7 in the VCM binary tree."));
   }
-  vcm::VcmEmptyTree(vcm::mediaVcm, status);
+  emptyStore();
 }
 
 }  // namespace
