@@ -154,8 +154,9 @@ TEST_P(StoreStress, EmptyingAmongAddsAndReads) {
       find(fleeting_, false);
     }
   });
+  std::int32_t status = vcm::kStored;
   while (adding) {
-    emptyStore();
+    vcm::VcmEmptyTree(mediaVcm, status);
   }
   adder.join();
   reader.join();

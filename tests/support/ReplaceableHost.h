@@ -29,8 +29,8 @@ template <auto Function>
 class ReplacedHost {
  public:
   template <class Replacement>
-  explicit ReplacedHost(Replacement&& replacement) {
-    hostReplacements().*Function = std::forward<Replacement>(replacement);
+  explicit ReplacedHost(Replacement replacement) {
+    hostReplacements().*Function = std::move(replacement);
   }
   ~ReplacedHost() { hostReplacements().*Function = nullptr; }
   ReplacedHost(const ReplacedHost&) = delete;

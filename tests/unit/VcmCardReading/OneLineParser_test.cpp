@@ -128,7 +128,7 @@ TEST(OneLineLayout, EachColumnHasOneOwner) {
   for (const vcm::Literal& literal : vcm::kOneLineLiterals) {
     claim(literal.first, literal.text.size());
   }
-  claim(vcm::kOneLineCovariance, 45 * vcm::OneLineCovarianceFormat::width);
+  claim(vcm::kOneLineCovariance, std::size_t{45} * vcm::OneLineCovarianceFormat::width);
   for (std::size_t i = 0; i < owners.size(); ++i) {
     EXPECT_LE(owners[i], 1) << "column " << i + 1;
   }

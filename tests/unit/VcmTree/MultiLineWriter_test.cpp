@@ -22,10 +22,10 @@ Lines written(const VcmRecord& record) {
   std::int32_t count = 0;
   EXPECT_EQ(vcm::Vcm2VcmLines(record, area, &count), 1);
   Lines lines;
-  for (std::int32_t i = 0; i < 50; ++i) {
+  for (std::size_t i = 0; i < 50; ++i) {
     std::string line(area.data() + i * 80, 80);
     line.erase(line.find_last_not_of(' ') + 1);
-    if (i < count) {
+    if (i < static_cast<std::size_t>(count)) {
       lines.push_back(line);
     } else {
       EXPECT_EQ(line, "") << "line " << i + 1 << " of an area with " << count;
