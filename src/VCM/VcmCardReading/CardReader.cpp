@@ -10,39 +10,12 @@ namespace {
 constexpr std::size_t kCardWidth = 1500;
 constexpr std::size_t kBlockSize = std::size_t{1} << 20;
 
-// What cannot be rewound (a pipe, a terminal) is copied to where it can; null when it can be
-// already or when there is no room for the copy.
-std::FILE* copyOfUnseekable(std::FILE* stream, std::vector<char>& block) {
-  if (std::fseek(stream, 0, SEEK_CUR) == 0) {
-    return nullptr;
-  }
-  std::FILE* const copy = std::tmpfile();
-  if (copy == nullptr) {
-    return nullptr;
-  }
-  for (std::size_t n = 0; (n = std::fread(block.data(), 1, block.size(), stream)) > 0;) {
-    if (std::fwrite(block.data(), 1, n, copy) < n) {
-      break;
-    }
-  }
-  return copy;
-}
-
 }  // namespace
 
-CardReader::CardReader(std::FILE* stream) : stream_(stream), block_(kBlockSize) {
-  copy_ = copyOfUnseekable(stream, block_);
-  rewind();
-}
-
-CardReader::~CardReader() {
-  if (copy_ != nullptr) {
-    std::fclose(copy_);
-  }
-}
+CardReader::CardReader(std::FILE* stream) : stream_(stream), block_(kBlockSize) { rewind(); }
 
 void CardReader::rewind() {
-  std::rewind(copy_ != nullptr ? copy_ : stream_);
+  std::rewind(stream_);
   begin_ = end_ = 0;
   atEnd_ = false;
   card_ = {};
@@ -75,8 +48,7 @@ bool CardReader::refill() {
   const std::size_t kept = std::min(end_ - begin_, kCardWidth);
   std::memmove(block_.data(), block_.data() + begin_, kept);
   begin_ = 0;
-  const std::size_t n =
-      std::fread(block_.data() + kept, 1, block_.size() - kept, copy_ != nullptr ? copy_ : stream_);
+  const std::size_t n = std::fread(block_.data() + kept, 1, block_.size() - kept, stream_);
   end_ = kept + n;
   atEnd_ = n == 0;
   return n > 0;

@@ -15,9 +15,8 @@ namespace vcm {
 // in the card and counts as a blank. A read error ends the file.
 class CardReader {
  public:
-  // The stream stays the caller's. One that cannot be rewound is copied to a temporary file first.
+  // The stream stays the caller's. It can be rewound, and is.
   explicit CardReader(std::FILE* stream);
-  ~CardReader();
   CardReader(const CardReader&) = delete;
   CardReader& operator=(const CardReader&) = delete;
 
@@ -36,7 +35,6 @@ class CardReader {
   void take(std::size_t end, std::size_t nextCard);
 
   std::FILE* stream_;
-  std::FILE* copy_ = nullptr;  // owned; where a stream that cannot be rewound was copied to
   std::vector<char> block_;
   std::size_t begin_ = 0;  // of the next card
   std::size_t end_ = 0;    // of what the block holds

@@ -1,7 +1,6 @@
 #include "VCM/VcmCardReading/InputFileReader.h"
 
 #include <array>
-#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "Host/HostOrbit.h"
 #include "Host/TraceLine.h"
 #include "VCM/VcmCardReading/CardType.h"
+#include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmCardReading/MultiLineParser.h"
 #include "VCM/VcmCardReading/OneLineParser.h"
 #include "VCM/VcmTree/Keys.h"
@@ -21,20 +21,6 @@ namespace {
 
 // Lets one file at a time be loaded.
 std::mutex readonlyvcms;
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
-
-std::int32_t openForReading(std::string_view name, OpenFile& file) {
-  constexpr std::int32_t kRead = 1;
-  const auto length = static_cast<std::int32_t>(name.size());
-  std::FILE* stream = nullptr;
-  const std::int32_t code = fileopen(name.data(), &length, &kRead, &stream);
-  file.reset(stream);
-  return code;
-}
 
 bool isCommentOrBlank(std::string_view card) { return card.starts_with('*') || isAllBlank(card); }
 
@@ -139,7 +125,7 @@ std::int32_t followDirective(std::string_view card, MessageCounts& counts,
   getinputfilename(card.data(), &cardLength, name.data(), &nameLength);
   const std::string_view trimmed = withoutTrailingBlanks({name.data(), name.size()});
   OpenFile file;
-  if (const std::int32_t code = openForReading(trimmed, file); code != 0) {
+  if (const std::int32_t code = openInputFile(trimmed, file); code != 0) {
     // The code alone would not tell which of the files it is.
     std::string message("ReadVcmsFrFileUnit: Unable to open file \"");
     message.append(trimmed).append("\", which a directive card names.");
@@ -180,7 +166,7 @@ std::int32_t followDirectives(CardReader& cards, MessageCounts& counts, ReadingO
 
 std::int32_t ReadVcmsFrFile(std::string_view name, ReadingObserver* observer) {
   OpenFile file;
-  if (const std::int32_t code = openForReading(name, file); code != 0) {
+  if (const std::int32_t code = openInputFile(name, file); code != 0) {
     return code;
   }
   CardReader cards(file.get());

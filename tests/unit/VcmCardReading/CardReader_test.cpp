@@ -1,11 +1,9 @@
 #include "VCM/VcmCardReading/CardReader.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <random>
 #include <string>
-#include <thread>
 
 #include "VCM/VcmCardReading/CardType.h"
 #include "support/Messages.h"
@@ -60,30 +58,6 @@ TEST(CardReader, LongLinesAreCutAndBlockEndsAreSeamless) {
     expected.emplace_back(random() % 100, static_cast<char>('a' + i % 26));
   }
   EXPECT_TRUE(cardsOf(joined(expected)) == expected);
-}
-
-TEST(CardReader, PipesAreReadTwiceAsWell) {
-  const std::string content = joined(Lines(50'000, "a line of a pipe"));
-  int ends[2];
-  ASSERT_EQ(pipe(ends), 0);
-  std::thread writer([&] {
-    std::size_t done = 0;
-    while (done < content.size()) {
-      const ssize_t n = write(ends[1], content.data() + done, content.size() - done);
-      ASSERT_GT(n, 0);
-      done += static_cast<std::size_t>(n);
-    }
-    close(ends[1]);
-  });
-  std::FILE* const stream = fdopen(ends[0], "rb");
-  {
-    vcm::CardReader cards(stream);
-    EXPECT_EQ(cardsOf(cards).size(), 50'000U);
-    cards.rewind();
-    EXPECT_EQ(cardsOf(cards).size(), 50'000U);
-  }
-  writer.join();
-  std::fclose(stream);
 }
 
 TEST(CardType, Rules) {

@@ -1,9 +1,12 @@
 #include "VCM/VcmCardReading/InputFileReader.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <memory>
 #include <string>
+#include <thread>
 
 #include "VCM/VcmTree/Keys.h"
 #include "support/Messages.h"
@@ -11,6 +14,8 @@
 #include "support/TraceCapture.h"
 
 namespace {
+
+using OpenStream = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
 class InputFileReader : public ::testing::Test {
  protected:
@@ -137,6 +142,24 @@ TEST_F(InputFileReader, OpenFailures) {
   EXPECT_EQ(vcm::ReadVcmsFrFile(main.path()), ENOENT);
   EXPECT_EQ(storedCount(), 0) << "nothing of the file is loaded";
   EXPECT_TRUE(trace_.takeInfos().empty()) << "and no counts are given";
+}
+
+// A pipe cannot be rewound, and yet both passes see all of it.
+TEST_F(InputFileReader, PipesAreReadTwice) {
+  const TemporaryFile named(numbered(2));
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  std::thread writer([&] {
+    const OpenStream stream(fdopen(ends[1], "wb"), &std::fclose);
+    for (int i = 0; i < 1000; ++i) {
+      std::fputs(numbered(1).c_str(), stream.get());
+    }
+    std::fputs(("VCMFIL " + named.path()).c_str(), stream.get());
+  });
+  EXPECT_EQ(vcm::ReadVcmsFrFile("/dev/fd/" + std::to_string(ends[0])), 0);
+  writer.join();
+  close(ends[0]);
+  EXPECT_EQ(trace_.takeInfos(), Lines{counts(2, 999, 0)});
 }
 
 TEST_F(InputFileReader, KeyModeCardTakesEffectBeforeTheFirstMessage) {

@@ -1,0 +1,46 @@
+#include "VCM/VcmCardReading/InputFile.h"
+
+#include <cerrno>
+#include <utility>
+#include <vector>
+
+#include "Host/HostCore.h"
+
+namespace vcm {
+
+namespace {
+
+bool canBeRewound(std::FILE* file) { return std::fseek(file, 0, SEEK_CUR) == 0; }
+
+// Returns 0 or what went wrong with the copy.
+int copyAll(std::FILE* from, std::FILE* to) {
+  constexpr std::size_t kBlockSize = std::size_t{1} << 20;
+  std::vector<char> block(kBlockSize);
+  for (std::size_t n = 0; (n = std::fread(block.data(), 1, block.size(), from)) > 0;) {
+    if (std::fwrite(block.data(), 1, n, to) < n) {
+      return errno;
+    }
+  }
+  return std::fflush(to) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+std::int32_t openInputFile(std::string_view name, OpenFile& file) {
+  constexpr std::int32_t kRead = 1;
+  const auto length = static_cast<std::int32_t>(name.size());
+  std::FILE* stream = nullptr;
+  if (const std::int32_t code = fileopen(name.data(), &length, &kRead, &stream); code != 0) {
+    return code;
+  }
+  file.reset(stream);
+  if (canBeRewound(stream)) {
+    return 0;
+  }
+  OpenFile copy(std::tmpfile());
+  const int code = copy == nullptr ? errno : copyAll(stream, copy.get());
+  file = code == 0 ? std::move(copy) : nullptr;
+  return code;
+}
+
+}  // namespace vcm
