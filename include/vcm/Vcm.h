@@ -206,7 +206,8 @@ VCM_API void VcmFieldsToSatKeyML(int32_t satNum, const char* epoch, int64_t* sat
  *
  * Given:  vcmFile  name of the file (VCM_FILE_NAME_LENGTH); blanks around it do not count. It may be
  *                  a pipe.
- * Result: 0, or the nonzero code of an open that failed (this file's or a named one's).
+ * Result: 0, or the nonzero code of an open that failed (this file's or a named one's, or that of the
+ *         temporary file which a pipe is copied to).
  *
  * Information: the file's name, and at the end
  * "Total VCMs = <n>, Loaded = <n>, Dup = <n>, Bad = <n>". Each message that is a duplicate or cannot
@@ -222,6 +223,10 @@ VCM_API int32_t VcmLoadFile(const char* vcmFile) VCM_NOEXCEPT;
  *         saveMode  0 creates or replaces the file, any other value appends to it.
  * Result: 0, or the nonzero code of an open that failed. What a full disk does not take is not
  *         reported.
+ *
+ * Not saved: the common name, maneuver cards, and digits beyond those of the form's fields. Seconds of
+ * 0.9995 or more above a whole one make their line a character longer than the form has it (59.9996
+ * is written as 591.000): such a message does not load again as it was.
  */
 VCM_API int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT;
 

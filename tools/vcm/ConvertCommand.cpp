@@ -16,8 +16,8 @@ namespace vcmtool {
 namespace {
 
 constexpr const char* kFooter =
-    R"(Messages of all files go into OUT by ascending key (satellite number, then
-epoch), each once. Bad messages are left out; OUT is not touched when a file
+    R"(Messages of all files go into OUT by ascending key, each once: that is by
+satellite number and epoch for numbers up to 524287. Bad messages are left out; OUT is not touched when a file
 cannot be read or OUT cannot be written in full. OUT may be one of the files.
 
 Examples:

@@ -26,6 +26,20 @@ fs::path temporaryBeside(const fs::path& place) {
   return place.parent_path() / fmt::format(".vcm-{:08x}{:08x}", random(), random());
 }
 
+// Standard output by another name: what it holds already, or a shell's append, must stay.
+bool isStandardOutput(const struct stat& file) {
+  struct stat output {};
+  return fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == file.st_dev &&
+         output.st_ino == file.st_ino;
+}
+
+// Where a link leads that leads to nothing yet; any other name is its own.
+fs::path linkTarget(const fs::path& name) {
+  std::error_code error;
+  const fs::path target = fs::read_symlink(name, error);
+  return error ? name : name.parent_path() / target;
+}
+
 }  // namespace
 
 OutputFile::~OutputFile() {
@@ -38,13 +52,13 @@ OutputFile::~OutputFile() {
 }
 
 int OutputFile::open(const std::string& name) {
-  if (name == "-") {
+  struct stat status {};
+  if (name == "-" || (stat(name.c_str(), &status) == 0 && isStandardOutput(status))) {
     descriptor_ = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
     return errnoUnless(descriptor_ >= 0);
   }
-  struct stat status {};
   if (stat(name.c_str(), &status) != 0) {
-    return errno == ENOENT ? openBeside(name) : errno;
+    return errno == ENOENT && !name.empty() ? openBeside(linkTarget(name)) : errno;
   }
   if (!S_ISREG(status.st_mode)) {
     descriptor_ = ::open(name.c_str(), O_WRONLY | O_CLOEXEC);

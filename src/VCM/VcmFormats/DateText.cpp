@@ -33,10 +33,14 @@ int writeFraction(double fraction, char* out) {
   constexpr std::size_t kUsualWidth = 4;
   std::array<char, kWidth> text;
   writeFixed(text.data(), kWidth, 3, fraction);
-  auto blanks = static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
-  blanks += text[blanks] == '0' ? 1 : 0;
-  blanks = std::min(blanks, text.size() - kUsualWidth);
-  return static_cast<int>(std::copy(text.begin() + blanks, text.end(), out) - out);
+  std::size_t first = static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
+  if (text[first] == '-' && text[first + 1] == '0') {
+    text[++first] = '-';
+  } else if (text[first] == '0') {
+    ++first;
+  }
+  first = std::min(first, text.size() - kUsualWidth);
+  return static_cast<int>(std::copy(text.begin() + first, text.end(), out) - out);
 }
 
 }  // namespace

@@ -50,7 +50,10 @@ using OwnedNode = std::unique_ptr<VcmBinTree, NodeRelease>;
 
 }  // namespace
 
-void StorePolicy::linked(VcmBinTree& node) { node.seqNum = ++seqNum; }
+void StorePolicy::linked(VcmBinTree& node) {
+  seqNum += seqNum < INT32_MAX ? 1 : 0;
+  node.seqNum = seqNum;
+}
 
 void StorePolicy::release(VcmBinTree* node) {
   if (isDirectAddress(node->satKey)) {
@@ -147,36 +150,48 @@ void VcmFindRec(const VcmMedia& media, std::int64_t satKey, VcmRecord& record, T
   }
 }
 
+namespace {
+
+// Looks a direct address up; the caller holds directAddressGate.
+const VcmRecord* findDirect(std::int64_t satKey, TraceLine* message) {
+  DmaObject* object = nullptr;
+  switch (resolveDma(satKey, object)) {
+    case DmaState::invalidKey:
+      say(message, "FindRecPtr: Invalid DMA key (<=0).");
+      return nullptr;
+    case DmaState::dead:
+    case DmaState::otherType:
+      say(message, "FindRecPtr: Invalid DMA key.");
+      return nullptr;
+    case DmaState::noRecord:
+      say(message, "FindRecPtr: Prop data doesn't exist.");
+      return nullptr;
+    case DmaState::alive:
+      break;
+  }
+  return object->rec;
+}
+
+// Looks an ordinary key up; the caller is inside the store's gate.
+const VcmRecord* findInTree(const VcmMedia& media, std::int64_t satKey, TraceLine* message) {
+  if (const VcmBinTree* const node = StoreTree::find(media.root, satKey)) {
+    return node->rec;
+  }
+  say(message, media.root == nullptr ? "FindRecPtr: Search tree is empty."
+                                     : "FindRecPtr: search key doens't exist.");
+  return nullptr;
+}
+
+}  // namespace
+
 void VcmFindRecPtr(const VcmMedia& media, std::int64_t satKey, const VcmRecord*& record,
                    TraceLine* message) {
-  record = nullptr;
   say(message, "");
   if (isDirectAddress(satKey)) {
-    DmaObject* object = nullptr;
-    switch (resolveDma(satKey, object)) {
-      case DmaState::invalidKey:
-        say(message, "FindRecPtr: Invalid DMA key (<=0).");
-        break;
-      case DmaState::dead:
-      case DmaState::otherType:
-        say(message, "FindRecPtr: Invalid DMA key.");
-        break;
-      case DmaState::noRecord:
-        say(message, "FindRecPtr: Prop data doesn't exist.");
-        break;
-      case DmaState::alive:
-        record = object->rec;
-        break;
-    }
-    return;
-  }
-  VcmBeginRead();
-  if (media.root == nullptr) {
-    say(message, "FindRecPtr: Search tree is empty.");
-  } else if (const VcmBinTree* const node = StoreTree::find(media.root, satKey)) {
-    record = node->rec;
+    record = findDirect(satKey, message);
   } else {
-    say(message, "FindRecPtr: search key doens't exist.");
+    VcmBeginRead();
+    record = findInTree(media, satKey, message);
   }
 }
 
@@ -279,12 +294,17 @@ StoreReading::~StoreReading() {
   VcmEndRead();
 }
 
+// Asks only once what kind of key it is: the host's answer changes when direct addresses are switched
+// on, and the gate that was entered is the one to leave.
 BorrowedRecord::BorrowedRecord(const VcmMedia& media, std::int64_t satKey)
     : direct_(isDirectAddress(satKey)) {
   if (direct_) {
     directAddressGate.lock_shared();
+    record_ = findDirect(satKey, nullptr);
+  } else {
+    VcmBeginRead();
+    record_ = findInTree(media, satKey, nullptr);
   }
-  VcmFindRecPtr(media, satKey, record_);
 }
 
 BorrowedRecord::~BorrowedRecord() {
