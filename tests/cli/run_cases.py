@@ -1,194 +1,107 @@
-"""Runs the vcm program on the cases of the .toml files beside this one.
+"""Runs the vcm program on the cases of cases.txt.
 
     run_cases.py PROGRAM SAMPLES_DIRECTORY [WORD...]
 
-With WORDs, only cases whose name contains one of them. A case says
+With WORDs, only cases whose title contains one of them. A case is a title and, indented by two columns,
+commands and what they show. Commands run one by one in bash, in a directory that is the case's own:
 
-  args                 arguments; {long} stands for 513 characters
-  files                input files by name: a list of pieces
-  stdin                a file's name, or pieces that are given through a pipe
-  stdin_ends_after     a text: the pipe ends when it has been shown on the terminal
-  stdin_ends_after_s   seconds: the pipe ends then
-  terminal             columns: standard output and error are a terminal, shown as stdout
-  stdout_to            a file that standard output goes to; "closed pipe" has no reader
-  file_size_limit      bytes that a file may grow to
-  exit                 exit code, 0 if not given
-  stdout, stderr       what is written: the whole text, or texts that it holds in this order; nothing
-                       if not given
-  results              input files that change and files that are new, afterwards: a list of pieces
+  $ COMMAND       not on a terminal
+  80$ COMMAND     with standard input, output and error on a terminal of 80 columns. Once progress
+                  has been shown twice, enter is pressed. A return without a new line is shown as \\r.
 
-A piece of a file is a text, or a table: {sample = FILE} for a whole sample; {message = N} for the Nth
-message of the catalogue, with `form = "one"` its one-line form, with `replace` changes to its text.
+A command shows its standard output, then its standard error with "! " before each line, then its exit
+code in brackets unless it is 0. "..." stands for any text. Commands may use
+
+  vcm             the program
+  message N       the Nth message of the catalogue; one N, its one-line form
+  $samples        the directory of the samples
 """
 
-import fcntl
+import difflib
 import os
 import pathlib
 import pty
-import resource
-import struct
+import re
 import subprocess
 import sys
 import tempfile
 import termios
-import threading
-import time
-import tomllib
 
-HEADER = "<> SP VECTOR/COVARIANCE MESSAGE - V2.0\n"
 TIME_LIMIT = 60
+PRELUDE = """
+set -o pipefail
+vcm() { "$program" "$@"; }
+message() { awk -v n="$1" '/^<> SP VECTOR/ { ++k } k == n' "$samples/catalogue.vcm"; }
+one() { sed -n "$1p" "$samples/catalogue.one"; }
+"""
 
 
-class Pieces:
-    def __init__(self, samples):
-        self.samples = samples
-        multi_line = self.sample("catalogue.vcm").split(HEADER)
-        self.messages = {
-            "multi": [HEADER + text for text in multi_line[1:]],
-            "one": self.sample("catalogue.one").splitlines(keepends=True),
-        }
-
-    def sample(self, name):
-        return (self.samples / name).read_bytes().decode("latin-1")
-
-    def text(self, pieces):
-        return "".join(self.piece(piece) for piece in pieces)
-
-    def piece(self, piece):
-        if isinstance(piece, str):
-            return piece
-        if "sample" in piece:
-            return self.sample(piece["sample"])
-        text = self.messages[piece.get("form", "multi")][piece["message"] - 1]
-        for old, new in piece.get("replace", {}).items():
-            assert old in text, f"nothing to replace: {old}"
-            text = text.replace(old, new, 1)
-        return text
-
-
-def open_terminal(columns):
+def on_terminal(columns, start):
+    """Output and exit code of the process that `start` starts on a terminal."""
     master, slave = pty.openpty()
-    fcntl.ioctl(slave, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
-    return master, slave
-
-
-def output_of(case, directory):
-    """Where the case's standard output goes, and what is to be read from the other end."""
-    if "terminal" in case:
-        return open_terminal(case["terminal"])[::-1]
-    if case.get("stdout_to") == "closed pipe":
-        reader, writer = os.pipe()
-        os.close(reader)
-        return writer, None
-    if "stdout_to" in case:
-        return os.open(directory / case["stdout_to"], os.O_WRONLY | os.O_CREAT, 0o644), None
-    reader, writer = os.pipe()
-    return writer, reader
-
-
-def read_all(descriptor, shown):
+    termios.tcsetwinsize(slave, (24, columns))
+    modes = termios.tcgetattr(slave)
+    modes[3] &= ~termios.ECHO
+    termios.tcsetattr(slave, termios.TCSANOW, modes)
+    process = start(stdin=slave, stdout=slave, stderr=slave)
+    os.close(slave)
+    shown, entered = b"", False
     while True:
         try:
-            block = os.read(descriptor, 65536)
+            shown += os.read(master, 65536)
         except OSError:  # how a terminal ends
-            block = b""
-        if not block:
-            return
-        shown.extend(block)
+            os.close(master)
+            return shown.replace(b"\r\n", b"\n").replace(b"\r", rb"\r"), process.wait()
+        if not entered and shown.count(b" messages, ") > 1:
+            entered = bool(os.write(master, b"\n"))
 
 
-def feed(case, process, shown, pieces):
-    text = case.get("stdin")
-    if not isinstance(text, list):
-        return
-    process.stdin.write(pieces.text(text).encode("latin-1"))
-    process.stdin.flush()
-    if "stdin_ends_after" in case:
-        deadline = time.monotonic() + TIME_LIMIT
-        while case["stdin_ends_after"].encode() not in shown and time.monotonic() < deadline:
-            time.sleep(0.01)
-    time.sleep(case.get("stdin_ends_after_s", 0))
-    process.stdin.close()
+def shown_by(prompt, command, directory, environment):
+    def start(**streams):
+        return subprocess.Popen(["timeout", str(TIME_LIMIT), "bash", "-c", PRELUDE + command],
+                                cwd=directory, env=environment, **streams)
+    if prompt:
+        output, code = on_terminal(int(prompt), start)
+        errors = b""
+    else:
+        process = start(stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        output, errors = process.communicate()
+        code = process.returncode
+    output += b"" if output.endswith(b"\n") or not output else b" (no end of line)\n"
+    return (output.decode("latin-1") + re.sub("(?m)^(?=.)", "! ", errors.decode("latin-1"))
+            + (f"[{code}]\n" if code else ""))
 
 
-def run(program, case, directory, pieces):
-    output, reader = output_of(case, directory)
-    stdin = case.get("stdin")
-    limit = case.get("file_size_limit")
-    process = subprocess.Popen(
-        [program, *(arg.replace("{long}", "x" * 513) for arg in case["args"])],
-        cwd=directory,
-        stdin=(directory / stdin).open("rb") if isinstance(stdin, str)
-        else subprocess.PIPE if stdin else subprocess.DEVNULL,
-        stdout=output,
-        stderr=output if "terminal" in case else subprocess.PIPE,
-        preexec_fn=limit and (lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit))))
-    os.close(output)
-    shown, errors = bytearray(), bytearray()
-    threads = [threading.Thread(target=read_all, args=(descriptor, text))
-               for descriptor, text in ((reader, shown),
-                                        (process.stderr and process.stderr.fileno(), errors))
-               if descriptor is not None]
-    for thread in threads:
-        thread.start()
-    feed(case, process, shown, pieces)
-    code = process.wait(TIME_LIMIT)
-    for thread in threads:
-        thread.join()
-    return code, shown.decode("latin-1").replace("\r\n", "\n"), errors.decode("latin-1")
+def cases(text):
+    """Title and lines of each case; comments and empty lines end one."""
+    for block in re.findall(r"^[^\s#].*\n(?:  .*\n)+", text, re.M):
+        title, *lines = block.splitlines()
+        yield title, [line[2:] for line in lines]
 
 
-def difference(what, expected, actual):
-    if isinstance(expected, list):
-        position = 0
-        for text in expected:
-            found = actual.find(text, position)
-            if found < 0:
-                return [f"{what} lacks {text!r}, or not in this order:\n{actual[:4000]}"]
-            position = found + len(text)
-        return []
-    if expected == actual:
-        return []
-    return [f"{what} should be\n{expected[:4000]}\nand is\n{actual[:4000]}"]
-
-
-def check_files(case, directory, pieces):
-    problems = []
-    expected = case.get("files", {}) | case.get("results", {})
-    actual = {path.name: path.read_bytes().decode("latin-1") for path in directory.iterdir()}
-    for name in expected.keys() | actual.keys():
-        if name not in actual or name not in expected:
-            problems.append(f"{name} is {'missing' if name in expected else 'left over'}")
-        else:
-            problems += difference(name, pieces.text(expected[name]), actual[name])
-    return problems
-
-
-def problems_of(program, case, pieces):
-    with tempfile.TemporaryDirectory() as name:
-        directory = pathlib.Path(name)
-        for file, content in case.get("files", {}).items():
-            (directory / file).write_bytes(pieces.text(content).encode("latin-1"))
-        code, output, errors = run(program, case, directory, pieces)
-        problems = [] if code == case.get("exit", 0) else [f"exit code {code}"]
-        problems += difference("stdout", case.get("stdout", ""), output)
-        problems += difference("stderr", case.get("stderr", ""), errors)
-        return problems + check_files(case, directory, pieces)
+def run(lines, environment):
+    with tempfile.TemporaryDirectory() as directory:
+        shown = ""
+        for line in lines:
+            if command := re.fullmatch(r"(\d*)\$ (.*)", line):
+                shown += line + "\n" + shown_by(*command.groups(), directory, environment)
+    return shown
 
 
 def main():
     program, samples, *words = sys.argv[1:]
-    pieces = Pieces(pathlib.Path(samples))
+    environment = os.environ | {"LC_ALL": "C", "program": str(pathlib.Path(program).resolve()),
+                                "samples": str(pathlib.Path(samples).resolve())}
     total = failed = 0
-    for path in sorted(pathlib.Path(__file__).parent.glob("*.toml")):
-        for case in tomllib.loads(path.read_text())["case"]:
-            if words and not any(word in case["name"] for word in words):
-                continue
-            total += 1
-            problems = problems_of(program, case, pieces)
-            if problems:
-                failed += 1
-                print(f"FAILED {path.name}: {case['name']}", *problems, "", sep="\n")
+    for title, lines in cases(pathlib.Path(__file__).with_name("cases.txt").read_text()):
+        if words and not any(word in title for word in words):
+            continue
+        total += 1
+        expected = "".join(line + "\n" for line in lines)
+        shown = run(lines, environment)
+        if not re.fullmatch(".*".join(map(re.escape, expected.split("..."))), shown, re.S):
+            failed += 1
+            print(f"FAILED {title}", *difflib.ndiff(lines, shown.splitlines()), "", sep="\n")
     print(f"{total} cases, {failed} failed")
     return 1 if failed or not total else 0
 
