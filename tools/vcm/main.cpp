@@ -30,9 +30,10 @@ std::string versions() {
   return fmt::format("vcm {}\n{}", VCM_PROGRAM_VERSION, library);
 }
 
-std::string usageError(const CLI::App* app, const CLI::Error& error) {
-  return fmt::format("vcm: {}\nTry: {} --help\n", error.what(),
-                     app->get_parent() == nullptr ? app->get_name() : "vcm " + app->get_name());
+std::string usageError(const CLI::App* program, const CLI::Error& error) {
+  const auto commands = program->get_subcommands();
+  return fmt::format("vcm: {}\nTry: vcm {}--help\n", error.what(),
+                     commands.empty() ? "" : commands.front()->get_name() + " ");
 }
 
 }  // namespace
