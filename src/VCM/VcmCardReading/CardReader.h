@@ -17,6 +17,7 @@ class CardReader {
  public:
   // The stream stays the caller's. It can be rewound, and is.
   explicit CardReader(std::FILE* stream);
+  ~CardReader() = default;
   CardReader(const CardReader&) = delete;
   CardReader& operator=(const CardReader&) = delete;
 
