@@ -3,7 +3,6 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
-#include <bit>
 #include <new>
 #include <span>
 
@@ -15,7 +14,7 @@ namespace vcm {
 
 namespace {
 
-std::int64_t addressOf(const void* pointer) { return std::bit_cast<std::int64_t>(pointer); }
+std::int64_t addressOf(const void* pointer) { return reinterpret_cast<std::intptr_t>(pointer); }
 
 // Slabs of objects, each twice as large as the one before. Guarded by the gate.
 class Pool {
