@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <atomic>
 #include <map>
-#include <string>
 #include <thread>
 #include <vector>
 
@@ -66,29 +65,28 @@ class StoreStress : public testing::TestWithParam<bool> {
     RandomRecords random(static_cast<std::uint64_t>(writer));
     std::vector<std::int64_t> keys;
     for (int step = 0; step < kSteps; ++step) {
+      SCOPED_TRACE("writer " + std::to_string(writer) + " step " + std::to_string(step));
       const int value = random.integer(0, 999);
       const int satNum = random.integer(1, kLasting);
-      std::int32_t status = vcm::kStored;
       if (step % 2 == 0 || keys.empty()) {
         const std::int64_t key = vcm::AddVcmToMem(recordOf(kLasting + 1 + writer, value));
-        EXPECT_NE(key, vcm::kNoKey) << "writer " << writer << " step " << step;
+        EXPECT_NE(key, vcm::kNoKey);
         if (key != vcm::kDuplicateKey) {
           keys.push_back(fleeting_ = key);
         }
       } else if (random.integer(0, 1) == 0) {
-        vcm::VcmUpdateRec(mediaVcm, lasting_.at(satNum), recordOf(satNum, value), status);
+        EXPECT_EQ(updateStored(lasting_.at(satNum), recordOf(satNum, value)), vcm::kStored);
       } else {
         std::swap(keys[static_cast<std::size_t>(value) % keys.size()], keys.back());
-        vcm::VcmRemoveNode(mediaVcm, keys.back(), status);
+        EXPECT_EQ(removeStored(keys.back()), vcm::kStored);
         keys.pop_back();
       }
-      EXPECT_EQ(status, vcm::kStored) << "writer " << writer << " step " << step;
     }
     left_ += static_cast<std::int32_t>(keys.size());
   }
 
-  void read(std::uint64_t seed) {
-    RandomRecords random(seed);
+  void read(int reader) {
+    RandomRecords random(100 + static_cast<std::uint64_t>(reader));
     for (int step = 0; step < kSteps; ++step) {
       const int satNum = random.integer(1, kLasting);
       const std::int64_t key = lasting_.at(satNum);
@@ -102,7 +100,7 @@ class StoreStress : public testing::TestWithParam<bool> {
   }
 
   void list(std::int32_t order) {
-    EXPECT_GE(vcm::VcmGetNumOfTreeNodes(mediaVcm), kLasting);
+    EXPECT_GE(storedCount(), kLasting);
     std::vector<std::int64_t> keys(kLasting + kWriters * kSteps);
     std::int32_t count = 0;
     if (vcm::listingEntersGate(order)) {
@@ -131,21 +129,20 @@ TEST_P(StoreStress, ReadersSeeWholeRecordsAndEveryChangeCounts) {
   std::vector<std::thread> threads;
   for (int i = 0; i < kWriters; ++i) {
     threads.emplace_back([this, i] { write(i); });
-    threads.emplace_back([this, i] { read(100U + static_cast<unsigned>(i)); });
+    threads.emplace_back([this, i] { read(i); });
   }
   for (std::thread& thread : threads) {
     thread.join();
   }
-  EXPECT_EQ(vcm::VcmGetNumOfTreeNodes(mediaVcm), kLasting + left_);
+  EXPECT_EQ(storedCount(), kLasting + left_);
 }
 
 TEST_P(StoreStress, EmptyingAmongAddsAndReads) {
   std::atomic<bool> adding{true};
   std::thread adder([&] {
     for (int step = 0; step < kSteps; ++step) {
-      const std::int64_t key = vcm::AddVcmToMem(recordOf(1 + step % 50, step % 1000));
-      EXPECT_NE(key, vcm::kNoKey) << "step " << step;
-      fleeting_ = key;
+      fleeting_ = vcm::AddVcmToMem(recordOf(1 + step % 50, step % 1000));
+      EXPECT_NE(fleeting_, vcm::kNoKey) << "step " << step;
     }
     adding = false;
   });
@@ -154,14 +151,13 @@ TEST_P(StoreStress, EmptyingAmongAddsAndReads) {
       find(fleeting_, false);
     }
   });
-  std::int32_t status = vcm::kStored;
-  while (adding) {
+  for (std::int32_t status = vcm::kStored; adding;) {
     vcm::VcmEmptyTree(mediaVcm, status);
   }
   adder.join();
   reader.join();
   emptyStore();
-  EXPECT_EQ(vcm::VcmGetNumOfTreeNodes(mediaVcm), 0);
+  EXPECT_EQ(storedCount(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, StoreStress, testing::Bool(), [](const auto& suite) {

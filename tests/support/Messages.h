@@ -19,7 +19,7 @@ void putAt(std::string& line, int column, std::string_view text);
 Lines withText(Lines message, int line, int column, std::string_view text);
 
 // A message without leads, header, common name, J2000 and Earth-fixed lines.
-Lines bareForm(const Lines& message);
+Lines bareForm(Lines message);
 
 std::string joined(const Lines& lines, std::string_view lineEnd = "\n");
 std::vector<std::string_view> views(const Lines& lines);

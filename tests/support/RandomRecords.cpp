@@ -1,5 +1,6 @@
 #include "support/RandomRecords.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -26,63 +27,42 @@ VcmRecord RandomRecords::nextSmall(int satellites) {
 
 VcmRecord RandomRecords::next() {
   VcmRecord r;
-  const auto onOff = [this] { return integer(0, 1) == 0 ? "ON " : "OFF"; };
+  // Gives each member a value of its own.
+  const auto fill = [](const auto& make, auto&... members) { ((members = make()), ...); };
+  const auto upTo = [this](int high) { return [this, high] { return integer(0, high); }; };
+  const auto within = [this](double size) { return [this, size] { return real(-size, size); }; };
   const auto vector = [this](double size) {
-    return Vector3{real(-size, size), real(-size, size), real(-size, size)};
+    return [this, size] {
+      return Vector3{real(-size, size), real(-size, size), real(-size, size)};
+    };
   };
+  const auto onOff = [this] { return vcm::FixedText<3>(integer(0, 1) == 0 ? "ON " : "OFF"); };
   // Spread over the exponents that two digits hold.
   const auto scientific = [this] { return real(-1.0, 1.0) * std::pow(10.0, integer(-40, 3)); };
-  r.satNum = integer(1, 99999);
+  fill(upTo(99999), r.satNum, r.epochRev);
   r.intlDes.assign(std::to_string(integer(57, 99)) + std::to_string(integer(100, 999)) + "ABC");
   r.epoch = {integer(1957, 2050), integer(1, 365), integer(0, 23), integer(0, 59),
              integer(0, 59999) / 1000.0};
-  r.epochRev = integer(0, 99999);
-  r.j2kPos = vector(50000.0);
-  r.j2kVel = vector(11.0);
-  r.eciPos = vector(50000.0);
-  r.eciVel = vector(11.0);
-  r.efgPos = vector(50000.0);
-  r.efgVel = vector(11.0);
-  r.geoName.assign("EGM-96");
-  r.geoZonals = integer(0, 99);
-  r.geoTesserals = integer(0, 99);
-  r.dragModel.assign("JAC70/MSIS90");
-  r.lunarSolar.assign(onOff());
-  r.radPress.assign(onOff());
-  r.earthTides.assign(onOff());
-  r.intrackThrust.assign(onOff());
-  r.bTerm = scientific();
-  r.bDot = scientific();
-  r.agom = scientific();
-  r.edr = std::fabs(scientific());
-  r.thrustAccel = scientific();
-  r.cmOffset = scientific();
-  r.f10 = integer(0, 999);
-  r.avgF10 = integer(0, 999);
-  r.avgAp = real(0.0, 400.0);
-  r.taiMinusUtc = integer(0, 60);
-  r.ut1MinusUtc = real(-0.9, 0.9);
-  r.ut1Rate = real(-0.003, 0.003);
-  r.polarMotionX = real(-1.0, 1.0);
-  r.polarMotionY = real(-1.0, 1.0);
-  r.nutationTerms = integer(0, 106);
   r.leapSecondTime = {2016, 366, 0, 0, 0.0};
+  fill(vector(50000.0), r.j2kPos, r.eciPos, r.efgPos);
+  fill(vector(11.0), r.j2kVel, r.eciVel, r.efgVel, r.velSigmas, r.posSigmas);
+  fill(scientific, r.bTerm, r.bDot, r.agom, r.edr, r.thrustAccel, r.cmOffset, r.errorControl);
+  fill(within(0.9), r.ut1MinusUtc, r.polarMotionX, r.polarMotionY, r.wtdRms);
+  fill(upTo(99), r.geoZonals, r.geoTesserals, r.nutationTerms, r.taiMinusUtc);
+  fill(upTo(999), r.f10, r.avgF10);
+  fill(within(90.0), r.avgAp, r.initStepSize);
+  r.ut1Rate = real(-0.003, 0.003);
+  fill(onOff, r.lunarSolar, r.radPress, r.earthTides, r.intrackThrust, r.fixedStep);
+  r.geoName.assign("EGM-96");
+  r.dragModel.assign("JAC70/MSIS90");
   r.integMode.assign("ASW");
   r.coordSys.assign("J2000");
   r.partials.assign("ANALYTIC");
   r.stepMode.assign("TIME");
-  r.fixedStep.assign(onOff());
   r.stepSelection.assign("MANUAL");
-  r.initStepSize = real(0.0, 2000.0);
-  r.errorControl = std::fabs(scientific());
-  r.posSigmas = vector(900.0);
-  r.velSigmas = vector(90.0);
   r.covMtxSize = integer(0, 9);
-  r.wtdRms = real(0.0, 3.0);
   vcm::CovarianceTriangle values{};
-  for (int i = 0; i < vcm::covarianceValueCount(r.covMtxSize); ++i) {
-    values[static_cast<std::size_t>(i)] = scientific();
-  }
+  std::generate_n(values.begin(), vcm::covarianceValueCount(r.covMtxSize), scientific);
   r.covMtx = vcm::Vcm1dTo2d(values);
   return r;
 }

@@ -7,19 +7,15 @@
 #ifndef SUPPORT_REPLACEABLEHOST_H
 #define SUPPORT_REPLACEABLEHOST_H
 
-#include <cstdint>
-#include <cstdio>
 #include <functional>
-#include <utility>
+
+#include "Host/HostCalendar.h"
+#include "Host/HostCore.h"
 
 struct HostReplacements {
-  std::function<std::int32_t(const char* name, const std::int32_t* nameLength,
-                             const std::int32_t* mode, std::FILE** stream)>
-      fileopen;
-  std::function<std::int64_t(const std::int32_t* satNum, const std::int32_t* elsetType,
-                             const char* epochText, const double* ds50Utc)>
-      createsatkey;
-  std::function<std::int64_t(const std::int64_t* satKey)> nextsatkey;
+  std::function<decltype(::createsatkey)> createsatkey;
+  std::function<decltype(::isdma)> isdma;
+  std::function<decltype(::nextsatkey)> nextsatkey;
 };
 
 HostReplacements& hostReplacements();
@@ -30,15 +26,11 @@ class ReplacedHost {
  public:
   template <class Replacement>
   explicit ReplacedHost(Replacement replacement) {
-    hostReplacements().*Function = std::move(replacement);
+    hostReplacements().*Function = replacement;
   }
   ~ReplacedHost() { hostReplacements().*Function = nullptr; }
   ReplacedHost(const ReplacedHost&) = delete;
   ReplacedHost& operator=(const ReplacedHost&) = delete;
 };
-
-// Puts the key mode back to ordinary keys.
-void useOrdinaryKeys();
-void useDirectAddresses();
 
 #endif

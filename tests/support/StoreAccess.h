@@ -2,11 +2,14 @@
 #ifndef SUPPORT_STOREACCESS_H
 #define SUPPORT_STOREACCESS_H
 
-#include <cstdint>
-
 #include "VCM/VcmTree/KeyListing.h"
 #include "VCM/VcmTree/Store.h"
 #include "support/ReplaceableHost.h"
+
+// The key mode: what keys the records that are added next will have.
+inline void useKeyMode(std::int32_t mode) { elsetkeymodeset(&mode); }
+inline void useOrdinaryKeys() { useKeyMode(0); }
+inline void useDirectAddresses() { useKeyMode(1); }
 
 inline std::int32_t storedCount() { return vcm::VcmGetNumOfTreeNodes(vcm::mediaVcm); }
 

@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <limits>
 #include <map>
 #include <random>
 #include <vector>
@@ -81,29 +79,5 @@ void changeAtRandom(int steps, std::uint64_t keys, int stepsBetweenChecks) {
 
 TEST(TreeTemplate, AgreesWithAMapUnderRandomChanges) { changeAtRandom(1'000'000, 50'000, 50'000); }
 TEST(TreeTemplate, StaysBalancedAtEachRandomChange) { changeAtRandom(100'000, 50, 1); }
-
-TEST(TreeTemplate, EveryOrderOfAddingAndRemovingSixKeys) {
-  using Limits = std::numeric_limits<std::int64_t>;
-  std::array<std::int64_t, 6> adding{Limits::min(), Limits::min() + 1, -1, 0, 1, Limits::max()};
-  do {
-    std::array removing = adding;
-    std::sort(removing.begin(), removing.end());
-    do {
-      std::array<Node, adding.size()> nodes;
-      Node* root = nullptr;
-      for (std::size_t i = 0; i < nodes.size(); ++i) {
-        nodes[i].satKey = adding[i];
-        Tree::add(root, &nodes[i]);
-        ASSERT_GE(checkedHeight(root), 0) << testing::PrintToString(adding);
-      }
-      for (const std::int64_t key : removing) {
-        const Node* const removed = Tree::remove(root, key);
-        ASSERT_TRUE(removed != nullptr && removed->satKey == key && checkedHeight(root) >= 0)
-            << testing::PrintToString(adding) << " without " << testing::PrintToString(removing);
-      }
-      ASSERT_EQ(root, nullptr);
-    } while (std::next_permutation(removing.begin(), removing.end()));
-  } while (std::next_permutation(adding.begin(), adding.end()));
-}
 
 }  // namespace

@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
-#include "Host/HostCore.h"
 #include "VCM/VcmTree/Keys.h"
+#include "support/Messages.h"
 #include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
@@ -20,8 +16,6 @@ using vcm::VcmRecord;
 namespace {
 
 static_assert(offsetof(DmaObject, self) == 0 && offsetof(DmaObject, type) == sizeof(void*));
-
-using Messages = std::vector<std::string>;
 
 // What the store says to a key, operation by operation.
 struct Answers {
@@ -68,10 +62,10 @@ class DirectAddress : public testing::Test {
   void TearDown() override { EXPECT_EQ(emptyStore(), vcm::kStored); }
   void expectAnswers(std::int64_t key, const Answers& answers) {
     EXPECT_EQ(find(key, answers.find, answers.findPointer), vcm::kNoSatellite) << "key " << key;
-    EXPECT_EQ(trace_.takeErrors(), Messages{}) << "key " << key;
+    EXPECT_EQ(trace_.takeErrors(), Lines{}) << "key " << key;
     EXPECT_EQ(updateStored(key, satellite(1)), 2) << "key " << key;
     EXPECT_EQ(removeStored(key), 2) << "key " << key;
-    EXPECT_EQ(trace_.takeErrors(), (Messages{answers.update, answers.remove})) << "key " << key;
+    EXPECT_EQ(trace_.takeErrors(), (Lines{answers.update, answers.remove})) << "key " << key;
   }
   TraceCapture trace_;
 };
@@ -85,7 +79,7 @@ TEST_F(DirectAddress, IdenticalRecordsLiveApart) {
   EXPECT_EQ(find(key), 5);
   EXPECT_EQ(find(twin), 6);
   EXPECT_EQ(removeStored(key), vcm::kStored);
-  EXPECT_EQ(trace_.takeErrors(), Messages{});
+  EXPECT_EQ(trace_.takeErrors(), Lines{});
   EXPECT_EQ(vcm::GetSatKey(6), twin);
   EXPECT_EQ(storedCount(), 1);
 }
@@ -100,25 +94,19 @@ TEST_F(DirectAddress, GarbageIsNeverFollowed) {
   notOfThePool.self = &notOfThePool;
   notOfThePool.type = vcm::kVcmElsetType;
   constexpr std::int64_t kUnmapped = 0x7FFFFFFFF000;
-  using Limits = std::numeric_limits<std::int64_t>;
-  const std::pair<std::int64_t, const Answers*> rows[] = {
-      {0, &kInvalid},
-      {-5, &kInvalid},
-      {Limits::min(), &kInvalid},
-      {removed, &kDead},
-      {good + 2, &kDead},                       // no multiple of ten
-      {good + 10, &kDead},                      // odd address
-      {keyAt(&objectOf(good).type), &kDead},    // inside an object
-      {keyAt(&objectOf(good) + 1000), &kDead},  // never issued
-      {10, &kDead},
-      {kUnmapped * 10, &kDead},
-      {Limits::max() - 1, &kDead},
-      {keyAt(onStack.data()), &kDead},
-      {freed, &kDead},
-      {keyAt(&notOfThePool), &kDead}};
-  for (const auto& [key, answers] : rows) {
-    expectAnswers(key, *answers);
+  const auto check = [&](std::int64_t key, const Answers& answers) {
+    expectAnswers(key, answers);
     EXPECT_TRUE(storedCount() == 1 && find(good) == 5) << key;
+  };
+  for (const std::int64_t key : {std::int64_t{0}, std::int64_t{-5}, INT64_MIN}) {
+    check(key, kInvalid);
+  }
+  // Dead, no multiple of ten, at an odd address, inside an object, never issued, and of others.
+  for (const std::int64_t key :
+       {removed, good + 2, good + 10, keyAt(&objectOf(good).type), keyAt(&objectOf(good) + 1000),
+        std::int64_t{10}, kUnmapped * 10, INT64_MAX - 1, keyAt(onStack.data()), freed,
+        keyAt(&notOfThePool)}) {
+    check(key, kDead);
   }
 }
 
@@ -150,9 +138,18 @@ TEST_F(DirectAddress, AReferencedObjectOutlivesItsRecord) {
     EXPECT_EQ(find(key), 6);
     objectOf(key).references[reference] = nullptr;
     EXPECT_EQ(vcm::RemoveDMA(key), vcm::kGood);
-    EXPECT_EQ(trace_.takeErrors(), Messages{});
+    EXPECT_EQ(trace_.takeErrors(), Lines{});
     expectAnswers(key, kDead);
   }
+}
+
+// The host's answer changes when direct addresses are switched on: the gate left must be the one
+// that was entered, so the question is put once.
+TEST_F(DirectAddress, BorrowingAsksOnceWhatKindOfKeyItIs) {
+  int asked = 0;
+  const ReplacedHost<&HostReplacements::isdma> changing([&](auto...) { return asked++; });
+  { const vcm::BorrowedRecord borrowed(mediaVcm, 8); }
+  EXPECT_EQ(asked, 1);
 }
 
 TEST_F(DirectAddress, NodesOfDeadObjectsAreHarmless) {
@@ -167,7 +164,7 @@ TEST_F(DirectAddress, NodesOfDeadObjectsAreHarmless) {
   EXPECT_EQ(keys, (std::array{dead, alive}));
   trace_.takeErrors();
   emptyStore();
-  EXPECT_EQ(trace_.takeErrors(), Messages{kDead.remove});
+  EXPECT_EQ(trace_.takeErrors(), Lines{kDead.remove});
   EXPECT_EQ(storedCount(), 0);
 }
 

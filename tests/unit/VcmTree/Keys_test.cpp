@@ -2,18 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <utility>
-#include <vector>
-
-#include "VCM/VcmTree/KeyListing.h"
-#include "VCM/VcmTree/Store.h"
+#include "support/Messages.h"
 #include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
 using vcm::VcmRecord;
 
 namespace {
+
+using KeyReplaced = ReplacedHost<&HostReplacements::createsatkey>;
 
 std::int64_t keyOf(std::int32_t satNum, std::string epoch) {
   epoch.resize(vcm::kEpochTextLength, ' ');
@@ -42,22 +39,21 @@ TEST(Keys, GrowWithSatelliteThenEpochAndAgreeWithTheTextForms) {
     EXPECT_EQ(keyOf(record.satNum, text), key) << text;
     last = key;
   }
-  EXPECT_EQ(vcm::createSatKeyFrVcm(recordAt(-1, {2024, 100, 12, 0, 0.0})), vcm::kNoKey);
+  EXPECT_EQ(vcm::createSatKeyFrVcm(satelliteAt(-1)), vcm::kNoKey);
   for (const char* const unreadable : {"", "24100", "24367.5", "x4100.5", "2024100250000.0"}) {
     EXPECT_EQ(keyOf(5, unreadable), vcm::kNoKey) << unreadable;
   }
 }
 
 TEST(Keys, EpochTextReachesTheHostLeftAdjustedAndFilledWithZeros) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"      24100.5", "24100.50000000000000"},
-      {"24  1.5", "24001.50000000000000"},
-      {" 2024 99 1 2 3. 5", "2024099010203.050000"},
-      {"4 100.5", "4 100.50000000000000"},  // the first two characters stay as they are
-      {"", "  000000000000000000"}};
+  // clang-format off
+  const std::pair<const char*, const char*> rows[] = {  // the first two characters stay as they are
+      {"      24100.5", "24100.50000000000000"}, {"24  1.5", "24001.50000000000000"}, {"", "  000000000000000000"},
+      {" 2024 99 1 2 3. 5", "2024099010203.050000"}, {"4 100.5", "4 100.50000000000000"}};
+  // clang-format on
   for (const auto& [given, expected] : rows) {
     std::string handed;
-    const ReplacedHost<&HostReplacements::createsatkey> replaced(
+    const KeyReplaced replaced(
         [&](auto satNum, auto type, const char* text, auto days) -> std::int64_t {
           handed.assign(text, vcm::kEpochTextLength);
           return *satNum == 5 && *type == 5 && days == nullptr ? 4711 : -2;
@@ -67,23 +63,9 @@ TEST(Keys, EpochTextReachesTheHostLeftAdjustedAndFilledWithZeros) {
   }
 }
 
-TEST(Keys, SortText) {
-  const std::pair<VcmRecord, const char*> rows[] = {
-      {recordAt(0, {1950, 1, 0, 0, 0.0}), "000000000     1.000000000       "},
-      {recordAt(999999999, {2056, 366, 23, 59, 59.999}), "999999999 39082.999999988       "}};
-  for (const auto& [record, expected] : rows) {
-    std::string text(vcm::kSortTextLength, '#');
-    vcm::FieldsToStr(record, text.data());
-    EXPECT_EQ(text, expected);
-  }
-}
-
 TEST(Keys, ASatelliteIsFoundAtTheFirstNodeFromTheRoot) {
-  struct Row {
-    std::vector<std::pair<std::int64_t, std::int32_t>> added;  // key and satellite number
-    std::int64_t keyOfSeven;
-  };
-  const Row rows[] = {
+  // Keys and satellite numbers as they are added, and the key that satellite 7 is found by.
+  const std::pair<std::vector<std::pair<std::int64_t, std::int32_t>>, std::int64_t> rows[] = {
       {{}, vcm::kNoKey},
       {{{21, 8}}, vcm::kNoKey},
       {{{11, 7}, {21, 7}, {31, 7}}, 21},           // the root, not the smallest
@@ -91,19 +73,16 @@ TEST(Keys, ASatelliteIsFoundAtTheFirstNodeFromTheRoot) {
       {{{21, 8}, {11, 8}, {31, 7}, {15, 7}}, 15},  // all of the left side before the right
       {{{21, 8}, {11, 8}, {31, 7}}, 31}};
   TraceCapture trace;
-  for (const Row& row : rows) {
+  for (const auto& [added, expected] : rows) {
     emptyStore();
-    for (const auto& [key, satNum] : row.added) {
-      const ReplacedHost<&HostReplacements::createsatkey> replaced(
-          [k = key](auto...) { return k; });
-      ASSERT_EQ(vcm::AddVcmToMem(recordAt(satNum, {2024, 100, 0, 0, 0.0})), key);
+    for (const auto& [key, satNum] : added) {
+      const KeyReplaced replaced([k = key](auto...) { return k; });
+      ASSERT_EQ(vcm::AddVcmToMem(satelliteAt(satNum)), key);
     }
-    EXPECT_EQ(vcm::GetSatKey(7), row.keyOfSeven);
-    EXPECT_EQ(
-        trace.takeErrors(),
-        std::vector<std::string>(
-            row.keyOfSeven == vcm::kNoKey ? 1U : 0U,
-            "GetSatKey: Unable to locate satellite number         7 in the VCM binary tree."));
+    EXPECT_EQ(vcm::GetSatKey(7), expected);
+    EXPECT_EQ(trace.takeErrors(), Lines(expected == vcm::kNoKey ? 1U : 0U,
+                                        "GetSatKey: Unable to locate satellite number         7 "
+                                        "in the VCM binary tree."));
   }
   emptyStore();
 }

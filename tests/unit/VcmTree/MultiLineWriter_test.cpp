@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
-#include <limits>
 
 #include "VCM/VcmCardReading/MultiLineParser.h"
 #include "VCM/VcmTree/Covariance.h"
@@ -22,57 +21,53 @@ Lines written(const VcmRecord& record) {
   std::int32_t count = 0;
   EXPECT_EQ(vcm::Vcm2VcmLines(record, area, &count), 1);
   Lines lines;
-  for (std::size_t i = 0; i < 50; ++i) {
-    std::string line(area.data() + i * 80, 80);
-    line.erase(line.find_last_not_of(' ') + 1);
-    if (i < static_cast<std::size_t>(count)) {
-      lines.push_back(line);
-    } else {
-      EXPECT_EQ(line, "") << "line " << i + 1 << " of an area with " << count;
-    }
+  for (std::size_t i = 0; i < area.size(); i += 80) {
+    lines.emplace_back(vcm::withoutTrailingBlanks({area.data() + i, 80}));
   }
-  return lines;
+  const auto end = lines.begin() + count;
+  EXPECT_TRUE(std::all_of(end, lines.end(), [](auto& line) { return line.empty(); })) << count;
+  return {lines.begin(), end};
 }
 
 VcmRecord golden() { return vcm::MultiLine2Vcm(views(goldenMessage())); }
 
 TEST(MultiLineWriter, GoldenMessage) { EXPECT_EQ(written(golden()), goldenMessage()); }
 
-// One row per way that a single field can look.
 TEST(MultiLineWriter, SingleFields) {
   // clang-format off
   const struct {
-    const char* what;
-    std::function<void(VcmRecord&)> change;
-    std::size_t line;
+    int line, column;
     std::string_view text;
+    void (*change)(VcmRecord&);
   } cases[] = {
-      {"five digits", [](VcmRecord& r) { r.satNum = 99999; }, 4, "<> SATELLITE NUMBER: 99999                    INT. DES.: 1989-021F"},
-      {"six digits", [](VcmRecord& r) { r.satNum = 100000; }, 4, "<> SATELLITE NUMBER: 100000                   INT. DES.: 1989-021F"},
-      {"ten digits", [](VcmRecord& r) { r.satNum = 1234567890; }, 4, "<> SATELLITE NUMBER: 234567890                INT. DES.: 1989-021F"},
-      {"negative", [](VcmRecord& r) { r.satNum = -123456; }, 4, "<> SATELLITE NUMBER: *****                    INT. DES.: 1989-021F"},
-      {"no launch year", [](VcmRecord& r) { r.intlDes.assign("  067A  "); }, 4, "<> SATELLITE NUMBER:     1                    INT. DES.:"},
-      {"launch year 56", [](VcmRecord& r) { r.intlDes.assign("56067ABC"); }, 4, "<> SATELLITE NUMBER:     1                    INT. DES.: 2056-067ABC"},
-      {"launch year 57", [](VcmRecord& r) { r.intlDes.assign("57067A"); }, 4, "<> SATELLITE NUMBER:     1                    INT. DES.: 1957-067A"},
-      {"launch year of letters", [](VcmRecord& r) { r.intlDes.assign("XY067A"); }, 4, "<> SATELLITE NUMBER:     1                    INT. DES.:   XY-067A"},
-      {"seconds that round up", [](VcmRecord& r) { r.epoch.seconds = 59.9996; }, 6, "<> EPOCH TIME (UTC): 2028 206 (24 JUL) 12:04:591.000  EPOCH REV:  5513"},
-      {"leap day", [](VcmRecord& r) { r.epoch.dayOfYear = 60; }, 6, "<> EPOCH TIME (UTC): 2028 060 (29 FEB) 12:04:31.384  EPOCH REV:  5513"},
-      {"revolution too large", [](VcmRecord& r) { r.epochRev = 100000; }, 6, "<> EPOCH TIME (UTC): 2028 206 (24 JUL) 12:04:31.384  EPOCH REV: *****"},
-      {"no date", [](VcmRecord& r) { r.leapSecondTime = {}; }, 21, "<> TIME CONST LEAP SECOND TIME (UTC):    0 000 (00 JAN) 00:00:00.000"},
-      {"not a number of seconds", [](VcmRecord& r) { r.leapSecondTime.seconds = NAN; }, 21, "<> TIME CONST LEAP SECOND TIME (UTC): 2016 366 (31 DEC) 00:00:00 NaN"},
-      {"position too large", [](VcmRecord& r) { r.eciPos[1] = 1.0e9; }, 9, "<> ECI POS (KM):    -11044.91823553 ****************    6221.00051833"},
-      {"two-body", [](VcmRecord& r) { r.geoName.assign("2-BODY"); }, 13, "<> GEOPOTENTIAL:        70Z,70T  DRAG: JAC70/MSIS90  LUNAR/SOLAR: ON"},
-      {"negative bDot", [](VcmRecord& r) { r.bDot = -0.123456e-10; }, 15, "<> BALLISTIC COEF (M2/KG):  0.112473E-02 BDOT (M2/KG-S): -.123456E-10"},
-      {"TAI-UTC with a fraction", [](VcmRecord& r) { r.taiMinusUtc = 36.9; }, 19, "<> TAI-UTC (S): 36  UT1-UTC (S):  0.20345  UT1 RATE (MS/DAY):  0.308"},
-      {"size of two digits", [](VcmRecord& r) { r.covMtxSize = 12; }, 27, "<> COVARIANCE MATRIX (EQUINOCTIAL ELS): (12x12) WTD RMS:  0.12828E+01"},
+
+      {4, 22, "99999", [](auto& r) { r.satNum = 99999; }},    {4, 22, "234567890", [](auto& r) { r.satNum = 1234567890; }},
+      {4, 22, "100000", [](auto& r) { r.satNum = 100000; }},  {4, 22, "*****", [](auto& r) { r.satNum = -123456; }},
+      {4, 57, "          ", [](auto& r) { r.intlDes.assign("  067A  "); }},
+      {4, 58, "2056-067ABC", [](auto& r) { r.intlDes.assign("56067ABC"); }},
+      {4, 58, "1957-067A", [](auto& r) { r.intlDes.assign("57067A"); }},
+      {4, 58, "  XY-067A", [](auto& r) { r.intlDes.assign("XY067A"); }},
+      {6, 46, "591.000  EPOCH REV:  5513", [](auto& r) { r.epoch.seconds = 59.9996; }},
+      {6, 27, "060 (29 FEB)", [](auto& r) { r.epoch.dayOfYear = 60; }},
+      {6, 65, "*****", [](auto& r) { r.epochRev = 100000; }},
+      {9, 37, "****************", [](auto& r) { r.eciPos[1] = 1.0e9; }},
+      {13, 18, "      ", [](auto& r) { r.geoName.assign("2-BODY"); }},
+      {15, 58, "-.123456E-10", [](auto& r) { r.bDot = -0.123456e-10; }},
+      {19, 16, " 36", [](auto& r) { r.taiMinusUtc = 36.9; }},
+      {21, 39, "   0 000 (00 JAN) 00:00:00.000", [](auto& r) { r.leapSecondTime = {}; }},
+      {21, 63, "00 NaN", [](auto& r) { r.leapSecondTime.seconds = NAN; }},
+      {21, 63, "00-.500", [](auto& r) { r.leapSecondTime.seconds = -0.5; }},
+      {27, 42, "12x12", [](auto& r) { r.covMtxSize = 12; }},
   };
   // clang-format on
   for (const auto& c : cases) {
     VcmRecord record = golden();
     c.change(record);
-    Lines expected = goldenMessage();
-    expected[c.line - 1] = c.text;
-    EXPECT_EQ(written(record), expected) << c.what;
+    Lines expected = withText(goldenMessage(), c.line, c.column, c.text);
+    for (std::string& line : expected) {
+      line = vcm::withoutTrailingBlanks(line);
+    }
+    EXPECT_EQ(written(record), expected);
   }
 }
 
@@ -89,35 +84,25 @@ TEST(MultiLineWriter, LineCountFollowsTheCovarianceSize) {
 
 // A record that went through its text once is stable: text, record and text again agree.
 TEST(MultiLineWriter, RandomRecordsRoundTrip) {
-  constexpr std::uint64_t kSeed = 7;
-  RandomRecords random(kSeed);
+  RandomRecords random(7);
   for (int i = 0; i < 20'000; ++i) {
-    const VcmRecord record = random.next();
-    const Lines once = written(record);
+    const Lines once = written(random.next());
     const VcmRecord back = vcm::MultiLine2Vcm(views(once));
-    // A fraction that rounds up to a second makes the one line that does not read back.
-    if (record.epoch.seconds - std::trunc(record.epoch.seconds) >= 0.9995) {
-      continue;
-    }
     ASSERT_EQ(back.parseStatus, vcm::kGood) << joined(once);
-    ASSERT_EQ(written(back), once) << "record " << i << " of seed " << kSeed;
+    ASSERT_EQ(written(back), once) << "record " << i;
   }
 }
 
 // Whatever the numbers are, the text stays within its area and its labels stay in place.
 TEST(MultiLineWriter, NonsenseNumbersStayInTheirFields) {
-  for (const double nonsense : {std::numeric_limits<double>::quiet_NaN(),
-                                std::numeric_limits<double>::infinity(), -1e308, -5e-324}) {
+  for (const double nonsense : {double{NAN}, HUGE_VAL, -1e308, -5e-324}) {
     VcmRecord record = golden();
-    record.epoch.seconds = record.j2kPos[0] = record.bTerm = record.taiMinusUtc = record.ut1Rate =
-        record.errorControl = record.velSigmas[2] = record.wtdRms = nonsense;
+    record.epoch = record.leapSecondTime = {INT32_MIN, INT32_MAX, -1, 100, nonsense};
+    record.j2kPos[0] = record.bTerm = record.taiMinusUtc = record.wtdRms = nonsense;
     record.covMtx.fill(nonsense);
-    record.epoch.dayOfYear = record.epoch.year = INT32_MIN;
-    record.leapSecondTime.dayOfYear = INT32_MAX;
     const Lines lines = written(record);
-    ASSERT_EQ(lines.size(), 36U);
     for (std::size_t i = 0; i < 27; ++i) {
-      EXPECT_EQ(lines[i].substr(0, 12), goldenMessage()[i].substr(0, 12)) << i + 1;
+      EXPECT_EQ(lines.at(i).substr(0, 12), goldenMessage()[i].substr(0, 12));
       EXPECT_LE(lines[i].size(), 72U) << lines[i];
     }
   }

@@ -3,32 +3,47 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string>
-#include <vector>
+#include <new>
 
 #include "VCM/VcmTree/Keys.h"
-#include "support/AllocationFailure.h"
+#include "support/Messages.h"
 #include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
 using vcm::mediaVcm;
 using vcm::VcmRecord;
 
+// How often this thread still gets memory where it asks with std::nothrow. What it gets comes from
+// the throwing form, so that it is given back to the right heap, be it a sanitizer's.
+static thread_local int objectsLeft = INT32_MAX;
+static thread_local int arraysLeft = INT32_MAX;
+
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return objectsLeft-- > 0 ? ::operator new(size) : nullptr;
+}
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return arraysLeft-- > 0 ? ::operator new[](size) : nullptr;
+}
+
 namespace {
 
-using Messages = std::vector<std::string>;
 using ExtraLines = std::vector<vcm::ExtraLine>;
+using KeyReplaced = ReplacedHost<&HostReplacements::createsatkey>;
 
 constexpr std::int64_t kKey = 1001;  // what a replaced host makes for every record
 
-// A text, a key in 19 columns, a text.
-std::string withKey(const std::string& before, std::int64_t key, const std::string& after) {
+// A text with a key in 19 columns in the place of its #.
+std::string withKey(std::string text, std::int64_t key) {
   const std::string digits = std::to_string(key);
-  return before + std::string(19 - digits.size(), ' ') + digits + after;
+  return text.replace(text.find('#'), 1, std::string(19 - digits.size(), ' ') + digits);
 }
 
-std::string duplicateOf(std::int64_t key) {
-  return withKey("AddRecToMem: Duplicated record/key ", key, " found.");
+Lines duplicates(std::initializer_list<std::int64_t> keys) {
+  Lines lines;
+  for (const std::int64_t key : keys) {
+    lines.push_back(withKey("AddRecToMem: Duplicated record/key # found.", key));
+  }
+  return lines;
 }
 
 class Store : public testing::Test {
@@ -68,29 +83,27 @@ TEST_F(Store, KeepsDeepCopies) {
   vcm::VcmEndRead();
   EXPECT_EQ(removeStored(key), vcm::kStored);
   EXPECT_EQ(storedCount(), 0);
-  EXPECT_EQ(trace_.takeErrors(), Messages{});
+  EXPECT_EQ(trace_.takeErrors(), Lines{});
 }
 
 TEST_F(Store, SaysThatAKeyIsUnknown) {
   const auto check = [this](std::int64_t key, const std::string& why) {
     VcmRecord record = satelliteAt(1);
     record.extraLines.resize(1);
-    vcm::TraceLine message;
-    vcm::VcmFindRec(mediaVcm, key, record, &message);
+    vcm::TraceLine messages[2];
+    vcm::VcmFindRec(mediaVcm, key, record, &messages[0]);
     EXPECT_TRUE(record.satNum == -123 && record.extraLines.empty()) << record.satNum;
-    EXPECT_EQ(message.view(), vcm::TraceLine().text("FindRec: " + why).view());
     const VcmRecord* borrowed = &record;
-    vcm::VcmFindRecPtr(mediaVcm, key, borrowed, &message);
+    vcm::VcmFindRecPtr(mediaVcm, key, borrowed, &messages[1]);
     vcm::VcmEndRead();
     EXPECT_EQ(borrowed, nullptr);
-    EXPECT_EQ(message.view(), vcm::TraceLine().text("FindRecPtr: " + why).view());
-    EXPECT_EQ(trace_.takeErrors(), Messages{});
-    EXPECT_EQ(updateStored(key, satelliteAt(1)), 2);
-    EXPECT_EQ(removeStored(key), 2);
-    const Messages errors = {
-        withKey("UpdateRec: Unable to locate key ", key, " in its binary tree."),
-        withKey("RemoveNode: Unable to locate this key ", key, " in its binary tree.")};
-    EXPECT_EQ(trace_.takeErrors(), errors);
+    EXPECT_EQ(messages[0].view(), vcm::TraceLine().text("FindRec: " + why).view());
+    EXPECT_EQ(messages[1].view(), vcm::TraceLine().text("FindRecPtr: " + why).view());
+    EXPECT_EQ(trace_.takeErrors(), Lines{});
+    EXPECT_TRUE(updateStored(key, satelliteAt(1)) == 2 && removeStored(key) == 2);
+    EXPECT_EQ(trace_.takeErrors(),
+              (Lines{withKey("UpdateRec: Unable to locate key # in its binary tree.", key),
+                     withKey("RemoveNode: Unable to locate this key # in its binary tree.", key)}));
   };
   check(41, "Search tree is empty.");
   const std::int64_t key = vcm::AddVcmToMem(satelliteAt(5));
@@ -104,28 +117,27 @@ TEST_F(Store, SaysThatAKeyIsUnknown) {
 TEST_F(Store, RefusesWhatIsInvalidOrHasNoKey) {
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(-1)), vcm::kNoKey);
   EXPECT_EQ(trace_.takeErrors().size(), 1U);
-  const ReplacedHost<&HostReplacements::createsatkey> replaced([](auto...) { return -1; });
+  const KeyReplaced replaced([](auto...) { return -1; });
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(5)), vcm::kNoKey);
-  EXPECT_EQ(trace_.takeErrors(), Messages{"AddRecToMem: Unable to make a key for satellite number "
-                                          "        5 and its epoch."});
+  EXPECT_EQ(trace_.takeErrors(), Lines{"AddRecToMem: Unable to make a key for satellite number "
+                                       "        5 and its epoch."});
   EXPECT_EQ(storedCount(), 0);
 }
 
 TEST_F(Store, RecordsOfOneStateAreDuplicates) {
-  const ReplacedHost<&HostReplacements::createsatkey> replaced([](auto...) { return kKey; });
-  std::vector<VcmRecord> others(11, satelliteAt(5));
-  others[1].satNum = 6;
-  others[2].epoch.year = 2025;
-  others[3].epoch.dayOfYear = 99;
-  others[4].epoch.hour = 11;
-  others[5].epoch.minute = 1;
-  others[6].epoch.seconds = 1e-12;
-  others[7].eciPos[2] = 1e-300;
-  others[8].eciVel[0] = 1e-300;
-  others[9].bTerm = 1e-300;
-  others[10].agom = 1e-300;
+  const KeyReplaced replaced([](auto...) { return kKey; });
+  // clang-format off
+  void (*const changes[])(VcmRecord&) = {
+      [](auto&) {}, [](auto& r) { r.satNum = 6; }, [](auto& r) { r.epoch.year = 2025; },
+      [](auto& r) { r.epoch.dayOfYear = 99; }, [](auto& r) { r.epoch.hour = 11; },
+      [](auto& r) { r.epoch.minute = 1; }, [](auto& r) { r.epoch.seconds = 1e-12; },
+      [](auto& r) { r.eciPos[2] = 1e-300; }, [](auto& r) { r.eciVel[0] = 1e-300; },
+      [](auto& r) { r.bTerm = 1e-300; }, [](auto& r) { r.agom = 1e-300; }};
+  // clang-format on
   std::int64_t key = kKey;
-  for (VcmRecord& record : others) {
+  for (const auto change : changes) {
+    VcmRecord record = satelliteAt(5);
+    change(record);
     EXPECT_EQ(vcm::AddVcmToMem(record), key);
     // Nothing else of a record counts, nor does the sign of a zero.
     record.eciVel[1] = -0.0;
@@ -133,26 +145,25 @@ TEST_F(Store, RecordsOfOneStateAreDuplicates) {
     record.commonName.assign("OTHER");
     record.extraLines.resize(1);
     EXPECT_EQ(vcm::AddVcmToMem(record), 0) << key;
-    EXPECT_EQ(trace_.takeErrors(), Messages{duplicateOf(key)});
+    EXPECT_EQ(trace_.takeErrors(), duplicates({key}));
     key += 2;
   }
-  VcmRecord unlikeItself = satelliteAt(5, std::nan(""));
+  const VcmRecord unlikeItself = satelliteAt(5, std::nan(""));
   EXPECT_EQ(vcm::AddVcmToMem(unlikeItself), key);
   EXPECT_EQ(vcm::AddVcmToMem(unlikeItself), key + 2);
 }
 
 TEST_F(Store, OneKeyServesNinetyNineRecords) {
   constexpr std::int64_t kStep = 1000;
+  constexpr std::int64_t kLast = kKey + 99 * kStep;
   std::int64_t first = kKey;
-  const ReplacedHost<&HostReplacements::createsatkey> key([&first](auto...) { return first; });
+  const KeyReplaced key([&first](auto...) { return first; });
   const ReplacedHost<&HostReplacements::nextsatkey> next([](auto last) { return *last + kStep; });
   for (int i = 0; i < 99; ++i) {
     ASSERT_EQ(vcm::AddVcmToMem(satelliteAt(5, i)), kKey + i * kStep);
   }
   // The hundredth key is tried, but nothing is kept there.
-  constexpr std::int64_t kLast = kKey + 99 * kStep;
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(6)), 0);
-  EXPECT_EQ(trace_.takeErrors(), Messages{duplicateOf(kLast)});
   EXPECT_EQ(storedCount(), 99);
   // Where another record has the hundredth, the key moves on once more.
   first = kLast;
@@ -160,7 +171,7 @@ TEST_F(Store, OneKeyServesNinetyNineRecords) {
   first = kKey;
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(6)), 0);
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(7)), 0);
-  EXPECT_EQ(trace_.takeErrors(), (Messages{duplicateOf(kLast), duplicateOf(kLast + kStep)}));
+  EXPECT_EQ(trace_.takeErrors(), duplicates({kLast, kLast, kLast + kStep}));
   EXPECT_EQ(storedCount(), 100);
 }
 
@@ -169,9 +180,8 @@ TEST_F(Store, SequenceNumbersOnlyGrow) {
   const std::int32_t last = mediaVcm.root->seqNum;
   emptyStore();
   // Neither emptying nor a duplicate nor the search for a free key uses up a number.
-  for (const auto& record :
-       {satelliteAt(2), satelliteAt(2), satelliteAt(2, 1.0), satelliteAt(2, 2.0)}) {
-    vcm::AddVcmToMem(record);
+  for (const double position : {0.0, 0.0, 1.0, 2.0}) {
+    vcm::AddVcmToMem(satelliteAt(2, position));
   }
   std::vector<std::int32_t> numbers;
   vcm::StoreTree::walkUp(mediaVcm.root, [&](auto& node) { numbers.push_back(node.seqNum); });
@@ -183,28 +193,30 @@ TEST_F(Store, SequenceNumbersOnlyGrow) {
 }
 
 TEST_F(Store, IsUnchangedWhenMemoryRunsOut) {
-  const auto addFails = [this](int granted) {
+  const auto addFails = [this](int granted, const std::string& message) {
     const std::int32_t before = storedCount();
-    const AllocationFailure failure(AllocationFailure::ofObjects, granted);
+    objectsLeft = granted;
     EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(5)), vcm::kNoKey);
+    objectsLeft = INT32_MAX;
     EXPECT_EQ(storedCount(), before);
-    const Messages errors = trace_.takeErrors();
-    return errors.size() == 1 ? errors[0] : testing::PrintToString(errors);
+    EXPECT_EQ(trace_.takeErrors(), Lines{message});
   };
-  const std::string noNode = "AddRecToMem: Unable to allocate memory for key ";
-  EXPECT_EQ(addFails(0), withKey(noNode, vcm::createSatKeyFrVcm(satelliteAt(5)), "."));
+  const std::string noNode = "AddRecToMem: Unable to allocate memory for key #.";
+  const std::string noRecord = "AddRecToMem: Cannot allocate memory for a new rec.";
+  addFails(0, withKey(noNode, vcm::createSatKeyFrVcm(satelliteAt(5))));
   useDirectAddresses();
   std::int64_t last = vcm::AddVcmToMem(satelliteAt(5));
-  const AllocationFailure noMoreObjects(AllocationFailure::ofArrays);
+  arraysLeft = 0;
   for (std::int64_t key = last; key != vcm::kNoKey; key = vcm::AddVcmToMem(satelliteAt(5))) {
     last = key;
   }
-  EXPECT_EQ(trace_.takeErrors(), Messages{"AddRecToMem: Cannot allocate memory for a new dma."});
+  arraysLeft = INT32_MAX;
+  EXPECT_EQ(trace_.takeErrors(), Lines{"AddRecToMem: Cannot allocate memory for a new dma."});
   // One object is free from here on: whatever fails gives it back.
   EXPECT_EQ(removeStored(last), vcm::kStored);
-  EXPECT_EQ(addFails(0), "AddRecToMem: Cannot allocate memory for a new rec.");
-  EXPECT_EQ(addFails(0), "AddRecToMem: Cannot allocate memory for a new rec.");
-  EXPECT_EQ(addFails(1), withKey(noNode, last, "."));
+  addFails(0, noRecord);
+  addFails(0, noRecord);
+  addFails(1, withKey(noNode, last));
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(5)), last);
 }
 

@@ -3,17 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
-#include <string>
-#include <vector>
 
+#include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
 
 using vcm::VcmRecord;
 
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 struct Row {
   const char* message;  // what follows the common lead; empty for what passes
@@ -21,6 +17,7 @@ struct Row {
 };
 // The first ten break each check once, in the order of the checks.
 constexpr std::size_t kChecks = 10;
+// clang-format off
 const Row kRows[] = {
     {"satellite number =           -1 (valid = 1-999999999)", [](auto& r) { r.satNum = -1; }},
     {"Year of Epoch =         1952 (valid >=1956)", [](auto& r) { r.epoch.year = 1952; }},
@@ -28,37 +25,24 @@ const Row kRows[] = {
     {"Epoch Revolution =       100000 (valid 0-99999)", [](auto& r) { r.epochRev = 100000; }},
     {"ECI PosX = 10000000.5 (valid -1E7 to 1E7)", [](auto& r) { r.eciPos[0] = 10000000.5; }},
     {"ECI PosY = -1e+300 (valid -1E7 to 1E7)", [](auto& r) { r.eciPos[1] = -1e300; }},
-    {"ECI PosZ = inf (valid -1E7 to 1E7)", [](auto& r) { r.eciPos[2] = kInfinity; }},
-    {"ECI VelX = 1000.000000000001 (valid -1E3 to 1E3)",
-     [](auto& r) { r.eciVel[0] = 1000.000000000001; }},
+    {"ECI PosZ = inf (valid -1E7 to 1E7)", [](auto& r) { r.eciPos[2] = HUGE_VAL; }},
+    {"ECI VelX = 1000.000000000001 (valid -1E3 to 1E3)", [](auto& r) { r.eciVel[0] = 1000.000000000001; }},
     {"ECI VelY = -1000.25 (valid -1E3 to 1E3)", [](auto& r) { r.eciVel[1] = -1000.25; }},
     {"ECI VelZ = 10000 (valid -1E3 to 1E3)", [](auto& r) { r.eciVel[2] = 1e4; }},
 
-    {"satellite number =   1000000000 (valid = 1-999999999)",
-     [](auto& r) { r.satNum = 1000000000; }},
+    {"satellite number =   1000000000 (valid = 1-999999999)", [](auto& r) { r.satNum = 1000000000; }},
     {"Day of Epoch =            0 (valid 1-366)", [](auto& r) { r.epoch.dayOfYear = 0; }},
-    {"Day of Epoch =          366 (valid 1-365)",
-     [](auto& r) { r.epoch.year = 2023, r.epoch.dayOfYear = 366; }},
-    {"Day of Epoch =          366 (valid 1-365)",
-     [](auto& r) { r.epoch.year = 2100, r.epoch.dayOfYear = 366; }},
+    {"Day of Epoch =          366 (valid 1-365)", [](auto& r) { r.epoch.year = 2023, r.epoch.dayOfYear = 366; }},
+    {"Day of Epoch =          366 (valid 1-365)", [](auto& r) { r.epoch.year = 2100, r.epoch.dayOfYear = 366; }},
     {"Epoch Revolution =           -1 (valid 0-99999)", [](auto& r) { r.epochRev = -1; }},
 
-    {"", [](auto& r) { r.satNum = 0; }},  // although the message says 1
+    {"", [](auto& r) { r.satNum = 0, r.epoch.year = 1956, r.epoch.dayOfYear = 1; }},  // although the message says 1
     {"", [](auto& r) { r.satNum = 999999999, r.epochRev = 99999, r.epoch.dayOfYear = 366; }},
-    {"", [](auto& r) { r.epoch.year = 1956, r.epoch.dayOfYear = 1; }},
-    {"", [](auto& r) { r.epoch.year = std::numeric_limits<std::int32_t>::max(); }},
-    {"", [](auto& r) { r.eciPos[0] = 1e7, r.eciPos[1] = -1e7, r.eciPos[2] = -0.0; }},
-    {"", [](auto& r) { r.eciVel[0] = 1e3, r.eciVel[1] = -1e3, r.eciVel[2] = -0.0; }},
+    {"", [](auto& r) { r.epoch.year = INT32_MAX; }},
+    {"", [](auto& r) { r.eciPos = {1e7, -1e7, -0.0}, r.eciVel = {1e3, -1e3, -0.0}; }},
     {"", [](auto& r) { r.eciPos.fill(std::nan("")), r.eciVel.fill(std::nan("")); }},
-    {"",
-     [](auto& r) { r.epoch.hour = 99, r.epoch.seconds = -1, r.j2kPos[0] = r.efgVel[0] = 1e9; }}};
-
-VcmRecord goodRecord() {
-  VcmRecord record;
-  record.satNum = 5;
-  record.epoch = {2024, 100, 0, 0, 0.0};
-  return record;
-}
+    {"", [](auto& r) { r.epoch.hour = 99, r.epoch.seconds = -1, r.j2kPos[0] = r.efgVel[0] = 1e9; }}};
+// clang-format on
 
 std::string traced(const char* message) {
   std::string line = std::string(" ValidateVcmValues: Invalid ") + message;
@@ -66,28 +50,24 @@ std::string traced(const char* message) {
   return line;
 }
 
-TEST(Validation, EachLimit) {
+TEST(Validation, EachLimitAndAllOfThemInOrder) {
   TraceCapture trace;
+  VcmRecord allWrong = satelliteAt(5);
+  std::vector<std::string> messages;
   for (const Row& row : kRows) {
     SCOPED_TRACE("row " + std::to_string(&row - kRows));
     const bool passes = *row.message == '\0';
-    VcmRecord record = goodRecord();
+    VcmRecord record = satelliteAt(5);
     row.change(record);
     EXPECT_EQ(vcm::ValidateVcmValues(record), passes ? vcm::kGood : vcm::kRejected);
     EXPECT_EQ(trace.takeRawErrors(),
               std::vector<std::string>(passes ? 0U : 1U, traced(row.message)));
+    if (messages.size() < kChecks) {
+      row.change(allWrong);
+      messages.push_back(traced(row.message));
+    }
   }
-}
-
-TEST(Validation, AllChecksRunInOrder) {
-  TraceCapture trace;
-  VcmRecord record = goodRecord();
-  std::vector<std::string> messages(kChecks);
-  for (std::size_t i = 0; i < kChecks; ++i) {
-    kRows[i].change(record);
-    messages[i] = traced(kRows[i].message);
-  }
-  EXPECT_EQ(vcm::ValidateVcmValues(record), vcm::kRejected);
+  EXPECT_EQ(vcm::ValidateVcmValues(allWrong), vcm::kRejected);
   EXPECT_EQ(trace.takeRawErrors(), messages);
 }
 
