@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "Host/HostCore.h"
 #include "Host/TraceLine.h"
@@ -24,6 +25,8 @@ class LineSource {
 
   // The next line of the message; false when there is none.
   virtual bool next(std::string_view& line) = 0;
+  // Passes over the next line.
+  virtual void skip() = 0;
   virtual bool isBareForm() const = 0;
   virtual ReportedBy reportedBy(const LineLayout& layout) const = 0;
   virtual void unreadable(std::string_view field) = 0;
@@ -98,11 +101,12 @@ VcmRecord parse(LineSource& source) {
     if (!layout.inBareForm && source.isBareForm()) {
       continue;
     }
-    std::string_view text;
-    const bool present = source.next(text);
     if (!layout.isRead()) {
+      source.skip();
       continue;
     }
+    std::string_view text;
+    const bool present = source.next(text);
     const Columns line(text, source.isBareForm());
     if (!present || !matches(line.at(layout.label.first, layout.label.width), layout.labelText())) {
       reject(record, layout, source);
@@ -128,6 +132,7 @@ class TextLines final : public LineSource {
     line = next_ < lines_.size() ? lines_[next_++] : std::string_view();
     return true;
   }
+  void skip() override { ++next_; }
   bool isBareForm() const override { return false; }
   ReportedBy reportedBy(const LineLayout& layout) const override { return layout.reportedBy; }
   void unreadable(std::string_view /*field*/) override {}
@@ -143,14 +148,18 @@ class FileLines final : public LineSource {
       : cards_(cards), bare_(firstCard == CardType::bareFirstLine), observer_(observer) {}
 
   bool next(std::string_view& line) override {
-    if (first_) {
-      first_ = false;
+    if (std::exchange(first_, false)) {
       line = firstLine();
       return true;
     }
     const bool present = cards_.next();
     line = present ? cards_.card() : std::string_view();
     return present;
+  }
+  void skip() override {
+    if (!std::exchange(first_, false)) {
+      SkipLines(cards_, 1);
+    }
   }
   bool isBareForm() const override { return bare_; }
   ReportedBy reportedBy(const LineLayout& /*layout*/) const override {
