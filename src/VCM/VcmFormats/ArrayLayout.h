@@ -1,4 +1,4 @@
-// The array form: 512 numbers and 512 characters.
+// The array form: 512 numbers and 512 characters. Its positions are those that the public header names.
 #ifndef VCM_VCMFORMATS_ARRAYLAYOUT_H
 #define VCM_VCMFORMATS_ARRAYLAYOUT_H
 
@@ -7,11 +7,12 @@
 #include <string_view>
 
 #include "VCM/VcmTypes/VcmRecord.h"
+#include "vcm/Vcm.h"
 
 namespace vcm {
 
-inline constexpr std::size_t kArrayNumbers = 512;
-inline constexpr std::size_t kArrayCharacters = 512;
+inline constexpr std::size_t kArrayNumbers = VCM_NUM_ARRAY_LENGTH;
+inline constexpr std::size_t kArrayCharacters = VCM_CHAR_ARRAY_LENGTH;
 
 // One number: its position, counted from 0, and how it is taken out of a record.
 struct ArrayNumber {
@@ -29,7 +30,7 @@ extern const std::span<const ArrayNumber> kArrayNumberLayout;
 extern const std::span<const ArrayText> kArrayTextLayout;
 
 // The covariance triangle; only where the covariance size is at least 1.
-inline constexpr std::size_t kArrayCovariance = 100;
+inline constexpr std::size_t kArrayCovariance = VCM_NUM_COVARIANCE;
 
 }  // namespace vcm
 

@@ -46,8 +46,7 @@ struct Field {
   bool (*read)(std::string_view text, VcmRecord& record);
 };
 
-// ---- formats: how one value stands in `width` characters
-// -----------------------------------------
+// ---- formats: how one value stands in `width` characters ----------------------------------------
 
 template <int Width>
 struct Integer {
@@ -149,8 +148,7 @@ struct GeopotentialName : ShiftedCharacters {
   }
 };
 
-// ---- rows
-// ----------------------------------------------------------------------------------------
+// ---- rows ---------------------------------------------------------------------------------------
 
 // What a row stands for: a member, or one component of a vector member.
 template <auto Member, std::size_t... Component>

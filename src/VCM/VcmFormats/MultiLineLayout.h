@@ -45,8 +45,7 @@ extern const std::array<LineLayout, kMessageLines> kMultiLineLayout;
 // What every line but the second begins with; the lines of the bare form lack it.
 inline constexpr std::string_view kLead = "<> ";
 
-// ---- covariance rows: up to five values in each
-// --------------------------------------------------
+// ---- covariance rows: up to five values in each -------------------------------------------------
 
 inline constexpr int kValuesPerRow = 5;
 inline constexpr int kMaxCovarianceRows = kCovarianceValues / kValuesPerRow;

@@ -29,6 +29,17 @@ void say(TraceLine* message, std::string_view text) {
   }
 }
 
+// The record that the node with an ordinary key owns, null when there is none. The caller holds the gate.
+VcmRecord* ownedRecord(const VcmMedia& media, std::int64_t satKey) {
+  const VcmBinTree* const node = StoreTree::find(media.root, satKey);
+  return node == nullptr ? nullptr : node->rec;
+}
+
+// Nodes of direct addresses own no record and equal no node that does.
+bool sameRecord(const VcmBinTree& a, const VcmBinTree& b) {
+  return a.rec == b.rec || (a.rec != nullptr && b.rec != nullptr && equal(*a.rec, *b.rec));
+}
+
 // The key of a record's satellite number and epoch; a line in the error trace when there is none.
 std::int64_t makeKey(const VcmRecord& record) {
   const std::int64_t satKey = createSatKeyFrVcm(record);
@@ -62,8 +73,7 @@ void StorePolicy::release(VcmBinTree* node) {
   freeVcmBinTree(node);
 }
 
-// ---- adding
-// --------------------------------------------------------------------------------------
+// ---- adding -------------------------------------------------------------------------------------
 
 std::int64_t AddVcmToMem(const VcmRecord& record) {
   if (ValidateVcmValues(record) != kGood) {
@@ -114,21 +124,19 @@ std::int64_t VcmAddNode(VcmMedia& media, VcmBinTree& node, std::int32_t& status)
       status = kStored;
       return node.satKey;
     }
-    // Direct addresses are never linked twice, so both nodes have their record.
-    if (equal(*twin->rec, *node.rec)) {
+    if (sameRecord(*twin, node)) {
       return node.satKey;
     }
     node.satKey = nextsatkey(&node.satKey);
   }
   const VcmBinTree* const twin = StoreTree::find(media.root, node.satKey);
-  if (twin != nullptr && !equal(*twin->rec, *node.rec)) {
+  if (twin != nullptr && !sameRecord(*twin, node)) {
     node.satKey = nextsatkey(&node.satKey);
   }
   return node.satKey;
 }
 
-// ---- finding
-// -------------------------------------------------------------------------------------
+// ---- finding ------------------------------------------------------------------------------------
 
 void VcmFindRec(const VcmMedia& media, std::int64_t satKey, VcmRecord& record, TraceLine* message) {
   freeVcmRecord(record);
@@ -143,8 +151,8 @@ void VcmFindRec(const VcmMedia& media, std::int64_t satKey, VcmRecord& record, T
   const ReadGate::Reading gate(storeGate);
   if (media.root == nullptr) {
     say(message, "FindRec: Search tree is empty.");
-  } else if (const VcmBinTree* const node = StoreTree::find(media.root, satKey)) {
-    record = *node->rec;
+  } else if (const VcmRecord* const stored = ownedRecord(media, satKey)) {
+    record = *stored;
   } else {
     say(message, "FindRec: search key doens't exist.");
   }
@@ -174,8 +182,8 @@ const VcmRecord* findDirect(std::int64_t satKey, TraceLine* message) {
 
 // Looks an ordinary key up; the caller is inside the store's gate.
 const VcmRecord* findInTree(const VcmMedia& media, std::int64_t satKey, TraceLine* message) {
-  if (const VcmBinTree* const node = StoreTree::find(media.root, satKey)) {
-    return node->rec;
+  if (const VcmRecord* const record = ownedRecord(media, satKey)) {
+    return record;
   }
   say(message, media.root == nullptr ? "FindRecPtr: Search tree is empty."
                                      : "FindRecPtr: search key doens't exist.");
@@ -203,8 +211,7 @@ VcmRecord* recordOf(const VcmBinTree& node) {
   return resolveDma(node.satKey, object) == DmaState::alive ? object->rec : nullptr;
 }
 
-// ---- changing
-// ------------------------------------------------------------------------------------
+// ---- changing -----------------------------------------------------------------------------------
 
 void VcmUpdateRec(VcmMedia& media, std::int64_t satKey, const VcmRecord& record,
                   std::int32_t& status) {
@@ -221,8 +228,8 @@ void VcmUpdateRec(VcmMedia& media, std::int64_t satKey, const VcmRecord& record,
     return;
   }
   const ReadGate::Updating gate(storeGate);
-  if (const VcmBinTree* const node = StoreTree::find(media.root, satKey)) {
-    *node->rec = record;
+  if (VcmRecord* const stored = ownedRecord(media, satKey)) {
+    *stored = record;
     return;
   }
   status = kNotFound;
@@ -278,8 +285,7 @@ void VcmEmptyTree(VcmMedia& media, std::int32_t& status) {
   StoreTree::emptyTreeRecursive(media.root);
 }
 
-// ---- the gate
-// ------------------------------------------------------------------------------------
+// ---- the gate -----------------------------------------------------------------------------------
 
 void VcmBeginRead() { storeGate.lock_shared(); }
 void VcmEndRead() { storeGate.unlock_shared(); }
