@@ -67,12 +67,12 @@ class RandomArrays {
   Arrays next() {
     Arrays arrays = Arrays::zero();
     for (const Stretch& stretch : kStretches) {
-      for (int i = 0; i < stretch.count; ++i) {
+      for (int i = stretch.first; i < stretch.first + stretch.count; ++i) {
         const double drawn = real(stretch.low, stretch.high);
-        arrays.numbers[static_cast<std::size_t>(stretch.first + i)] =
-            stretch.digits > 0      ? real(-1, 1) * std::pow(10.0, drawn)
-            : stretch.decimals == 0 ? std::floor(drawn)
-                                    : drawn;
+        arrays.numbers[static_cast<std::size_t>(i)] = stretch.digits > 0
+                                                          ? real(-1, 1) * std::pow(10.0, drawn)
+                                                      : stretch.decimals == 0 ? std::floor(drawn)
+                                                                              : drawn;
       }
     }
     const int size = integer(0, 9);
@@ -150,7 +150,8 @@ int unexplained(const Arrays& before, const Arrays& after, double leapSecondTime
 }
 
 TEST(RoundTrip, ArraysToBothTextFormsAndBack) {
-  const char* const number = std::getenv("VCM_RANDOM_MESSAGES");
+  const char* const number =
+      std::getenv("VCM_RANDOM_MESSAGES");  // NOLINT(concurrency-mt-unsafe): no other thread yet
   const int count = number == nullptr ? 20000 : std::atoi(number);
   constexpr std::uint64_t kSeed = 1950;
   const double unknownLeapSecond = 36525.0 + 86399.999 / 86400;  // 2049, day 365
