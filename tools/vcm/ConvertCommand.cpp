@@ -1,15 +1,14 @@
 // vcm convert: messages of any form to multi-line ones.
 #include <CLI/CLI.hpp>
-#include <cerrno>
+#include <algorithm>
 #include <memory>
 #include <string>
 
 #include "Command.h"
+#include "Forms.h"
 #include "Inputs.h"
 #include "Loading.h"
-#include "OutputFile.h"
-#include "Saving.h"
-#include "Screen.h"
+#include "MessageOutput.h"
 
 namespace vcmtool {
 
@@ -29,31 +28,15 @@ Examples:
 struct ConvertOptions {
   Inputs inputs;
   std::string output;
+  std::string form = kDefaultForm;
 };
-
-int write(const std::string& name) {
-  OutputFile file;
-  if (const int code = file.open(name); code != 0) {
-    return code;
-  }
-  if (const int code = saveMessages(file.descriptor()); code != 0) {
-    return code;
-  }
-  return file.commit();
-}
 
 ExitCode convert(const ConvertOptions& options) {
   const ExitCode loaded = loadFiles(options.inputs);
   if (loaded == kFailed) {
     return kFailed;
   }
-  const int code = write(options.output);
-  // A reader that has seen enough is no failure.
-  if (code == 0 || code == EPIPE) {
-    return loaded;
-  }
-  printFailure(options.output, code);
-  return kFailed;
+  return std::max(loaded, writeMessages(options.output, options.form));
 }
 
 }  // namespace
@@ -66,6 +49,7 @@ void addConvertCommand(CLI::App& program, ExitCode& exitCode) {
   command->add_option("-o,--output", options->output, "File to write; - is standard output")
       ->required()
       ->type_name("OUT");
+  addFormOption(*command, options->form)->capture_default_str();
   command->footer(kFooter);
   command->callback([options, &exitCode] { exitCode = convert(*options); });
 }
