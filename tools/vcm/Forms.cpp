@@ -7,7 +7,8 @@ namespace vcmtool {
 namespace {
 
 const std::map<std::string, MakeWriter*>& forms() {
-  static const std::map<std::string, MakeWriter*> names = {{kDefaultForm, makeMultiLineWriter}};
+  static const std::map<std::string, MakeWriter*> names = {
+      {kDefaultForm, makeMultiLineWriter}, {kJsonForm, makeJsonWriter}, {"csv", makeCsvWriter}};
   return names;
 }
 

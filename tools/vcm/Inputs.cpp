@@ -1,27 +1,22 @@
 #include "Inputs.h"
 
-#include <fmt/format.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <system_error>
 
 #include "Screen.h"
-#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
 namespace {
 
-CLI::Validator fileName() {
+CLI::Validator standardInput() {
   return {[](std::string& name) {
             if (name == "-") {
               name = "/dev/stdin";
             }
-            return name.size() <= VCM_FILE_NAME_LENGTH
-                       ? std::string()
-                       : fmt::format("the file name {} is longer than {} characters", name,
-                                     VCM_FILE_NAME_LENGTH);
+            return std::string();
           },
           ""};
 }
@@ -32,7 +27,7 @@ void addInputs(CLI::App& command, Inputs& inputs) {
   command.add_option("FILE", inputs.files, "Files to read; - is standard input")
       ->required()
       ->type_name("")
-      ->transform(fileName());
+      ->transform(standardInput());
   command.add_flag("-q,--quiet", inputs.quiet, "No information, only what went wrong");
 }
 

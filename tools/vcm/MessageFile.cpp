@@ -1,0 +1,46 @@
+#include "MessageFile.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+
+#include "Host/TraceLine.h"
+#include "JsonReading.h"
+#include "VCM/VcmCardReading/CardReader.h"
+#include "VCM/VcmCardReading/InputFile.h"
+#include "VCM/VcmCardReading/InputFileReader.h"
+#include "VCM/VcmTypes/FixedText.h"
+
+namespace vcmtool {
+
+namespace {
+
+// No text form of a message begins like this. The stream, wherever it was, is then at the file's
+// start.
+bool isJson(std::FILE* file) {
+  std::rewind(file);
+  int c = std::getc(file);
+  while (c != EOF && vcm::isBlank(static_cast<char>(c))) {
+    c = std::getc(file);
+  }
+  std::rewind(file);
+  return c == '[' || c == '{';
+}
+
+}  // namespace
+
+std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer) {
+  vcm::logInfo(fmt::format("Reading \"{}\"", name));
+  vcm::OpenFile file;
+  if (const std::int32_t code = vcm::openInputFile(name, file); code != 0) {
+    return code;
+  }
+  if (isJson(file.get())) {
+    readJsonMessages(file.get(), name, observer);
+    return 0;
+  }
+  vcm::CardReader cards(file.get());
+  return vcm::ReadVcmsFrFileUnit(cards, name, observer);
+}
+
+}  // namespace vcmtool
