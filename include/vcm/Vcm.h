@@ -42,11 +42,27 @@ extern "C" {
 
 /* ---- lengths of texts and arrays, in characters and elements ---------------------------- */
 
-#define VCM_INFO_LENGTH 128       /* description of the library */
-#define VCM_FILE_NAME_LENGTH 512  /* name of a file */
-#define VCM_EPOCH_TEXT_LENGTH 20  /* epoch that a key is made of */
-#define VCM_CHAR_ARRAY_LENGTH 512 /* texts of the array form */
-#define VCM_NUM_ARRAY_LENGTH 512  /* numbers of the array form */
+#define VCM_INFO_LENGTH 128        /* description of the library */
+#define VCM_FILE_NAME_LENGTH 512   /* name of a file */
+#define VCM_EPOCH_TEXT_LENGTH 20   /* epoch that a key is made of */
+#define VCM_TEXT_LENGTH 4000       /* multi-line message: 50 lines of 80 characters */
+#define VCM_ONE_LINE_LENGTH 1500   /* one-line message */
+#define VCM_FIELD_VALUE_LENGTH 512 /* value of a field */
+#define VCM_CHAR_ARRAY_LENGTH 512  /* texts of the array form */
+#define VCM_NUM_ARRAY_LENGTH 512   /* numbers of the array form */
+
+/* ---- lengths of the texts in a message, in characters ----------------------------------- */
+
+#define VCM_INTLDES_LENGTH 8       /* international designator: launch year (2), piece (6) */
+#define VCM_DATE_LENGTH 17         /* yyyydddhhmmss.sss, ddd is the day of the year */
+#define VCM_GEONAME_LENGTH 6       /* geopotential model */
+#define VCM_DRAGMODEL_LENGTH 12    /* drag model */
+#define VCM_ONOFF_LENGTH 3         /* ON or OFF */
+#define VCM_INTEGMODE_LENGTH 6     /* integrator mode */
+#define VCM_COORDSYS_LENGTH 5      /* integrator coordinate system */
+#define VCM_PARTIALS_LENGTH 8      /* partials */
+#define VCM_STEPMODE_LENGTH 4      /* step mode */
+#define VCM_STEPSELECTION_LENGTH 6 /* step size selection */
 
 /* ---- orders of VcmGetLoaded ------------------------------------------------------------- */
 
@@ -54,6 +70,67 @@ extern "C" {
 #define VCM_ORDER_SATELLITE_REVERSE 1 /* the same backwards */
 #define VCM_ORDER_LOADED 2            /* in the order of loading */
 #define VCM_ORDER_KEY 3               /* by key; so is every other value */
+
+/* ---- indexes of single fields ----------------------------------------------------------- */
+
+/*
+ * Behind each: how VcmGetField writes the field, and its unit.
+ *   i9       integer of up to 9 columns        f35.15  fixed point, up to 35 columns, 15 decimals
+ *   text 8   up to 8 characters                e10.3   0.ddd, E, sign and two digits of exponent
+ *   date     yyyydddhhmmss.sss, UTC            g17     17 significant digits
+ * A number that does not fit its columns is as many asterisks.
+ */
+#define VCM_FIELD_SATNUM 1          /* i9: satellite number; may not be set */
+#define VCM_FIELD_INTLDES 2         /* text 8: international designator */
+#define VCM_FIELD_EPOCH 3           /* date: epoch; may not be set */
+#define VCM_FIELD_EPOCHREV 4        /* i5: revolution number at epoch */
+#define VCM_FIELD_ECIPOSX 5         /* f35.15: ECI (true of date) position, km */
+#define VCM_FIELD_ECIPOSY 6         /* f35.15 */
+#define VCM_FIELD_ECIPOSZ 7         /* f35.15 */
+#define VCM_FIELD_ECIVELX 8         /* f35.15: ECI velocity, km/s */
+#define VCM_FIELD_ECIVELY 9         /* f35.15 */
+#define VCM_FIELD_ECIVELZ 10        /* f35.15 */
+#define VCM_FIELD_GEONAME 11        /* text 6: geopotential model */
+#define VCM_FIELD_GEOZONALS 12      /* i2: zonal terms */
+#define VCM_FIELD_GEOTESSERALS 13   /* i2: tesseral terms */
+#define VCM_FIELD_DRAGMODEL 14      /* text 12: drag model */
+#define VCM_FIELD_LUNARSOLAR 15     /* text 3: lunar and solar perturbations, ON or OFF */
+#define VCM_FIELD_RADPRESS 16       /* text 3: solar radiation pressure, ON or OFF */
+#define VCM_FIELD_EARTHTIDES 17     /* text 3: solid earth tides, ON or OFF */
+#define VCM_FIELD_INTRACKTHRUST 18  /* text 3: in-track thrust, ON or OFF */
+#define VCM_FIELD_BTERM 19          /* f35.15: ballistic coefficient, m2/kg */
+#define VCM_FIELD_AGOM 20           /* f35.15: solar radiation pressure coefficient, m2/kg */
+#define VCM_FIELD_THRUSTACCEL 21    /* f35.15: thrust acceleration, m/s2 */
+#define VCM_FIELD_CMOFFSET 22       /* f35.15: centre-of-mass offset, m */
+#define VCM_FIELD_F10 23            /* i3: solar flux F10 */
+#define VCM_FIELD_AVGF10 24         /* i3: average F10 */
+#define VCM_FIELD_AVGAP 25          /* f35.15: average Ap */
+#define VCM_FIELD_TAIMINUSUTC 26    /* f35.15: s */
+#define VCM_FIELD_UT1MINUSUTC 27    /* f35.15: s */
+#define VCM_FIELD_UT1RATE 28        /* f35.15: ms/day */
+#define VCM_FIELD_POLARMOTIONX 29   /* f35.15: arcsec */
+#define VCM_FIELD_POLARMOTIONY 30   /* f35.15: arcsec */
+#define VCM_FIELD_NUTATIONTERMS 31  /* i3: IAU 1980 nutation terms */
+#define VCM_FIELD_LEAPSECONDTIME 32 /* date: time-constant leap second time */
+#define VCM_FIELD_INTEGMODE 33      /* text 6: integrator mode */
+#define VCM_FIELD_PARTIALS 34       /* text 8 */
+#define VCM_FIELD_STEPMODE 35       /* text 4 */
+#define VCM_FIELD_FIXEDSTEP 36      /* text 3: ON or OFF */
+#define VCM_FIELD_STEPSELECTION 37  /* text 6: step size selection */
+#define VCM_FIELD_INITSTEPSIZE 38   /* f35.15: initial step size, s */
+#define VCM_FIELD_ERRORCONTROL 39   /* e10.3: integrator error control */
+#define VCM_FIELD_WTDRMS 40         /* f35.15: weighted RMS of the fit */
+#define VCM_FIELD_BDOT 41           /* g17: rate of the ballistic coefficient, m2/kg-s */
+#define VCM_FIELD_EDR 42            /* g17: energy dissipation rate, W/kg */
+
+/* ---- positions in the time terms of VcmGetAllFields ------------------------------------- */
+
+#define VCM_TIME_TERMS 5
+#define VCM_TIME_TAIMINUSUTC 0  /* s */
+#define VCM_TIME_UT1MINUSUTC 1  /* s */
+#define VCM_TIME_UT1RATE 2      /* ms/day */
+#define VCM_TIME_POLARMOTIONX 3 /* arcsec */
+#define VCM_TIME_POLARMOTIONY 4 /* arcsec */
 
 /* ---- positions in the number array, counted from 0 -------------------------------------- */
 
@@ -230,7 +307,186 @@ VCM_API int32_t VcmLoadFile(const char* vcmFile) VCM_NOEXCEPT;
  */
 VCM_API int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT;
 
+/* ---- adding ----------------------------------------------------------------------------- */
+
+/*
+ * Adds one message to the store.
+ *
+ * Given:  vcmText  a multi-line message, as lines of 80 characters, as lines that end with LF or CR LF,
+ *                  or as one string, or a one-line message (VCM_TEXT_LENGTH). What follows the message
+ *                  does not count.
+ * Result: the new key; 0 when the same message is stored already ("AddRecToMem: Duplicated record/key
+ *         <key> found."); -1 when the text makes no message within its limits. Nothing is stored then.
+ *
+ * Why a text is refused stands in the error trace: one line for each limit broken ("ValidateVcmValues:
+ * ..."), or for the line of the message that is not what it should be ("MultiLine2Vcm: Invalid line
+ * caused read error @ '...'."), or "AnyVcmStrings2Vcm: Invalid concatenated vcm string." for a text
+ * without any line, or "AnyVcmStrings2Vcm: Number of vcm records needs to be at least 27.". A number
+ * that cannot be read is zero, in silence, and so are those behind it on its line.
+ *
+ * Messages that make the same key and differ in state, ballistic or radiation pressure coefficient are
+ * kept both: the later one gets the next free key.
+ */
+VCM_API int64_t VcmAddSatFrLines(const char* vcmText) VCM_NOEXCEPT;
+
+/*
+ * The same, for callers that cannot receive a 64-bit result.
+ *
+ * Returned: satKey  the new key, 0 or -1.
+ */
+VCM_API void VcmAddSatFrLinesML(const char* vcmText, int64_t* satKey) VCM_NOEXCEPT;
+
+/*
+ * Adds one message, given in the array form, to the store.
+ *
+ * Given:  vcmCharArray  texts at the positions VCM_CHAR_... (VCM_CHAR_ARRAY_LENGTH).
+ *         vcmNumArray   numbers at the positions VCM_NUM_... (VCM_NUM_ARRAY_LENGTH). Integers are
+ *                       truncated toward zero and kept within 32 bits, not-a-number is 0 there. The
+ *                       covariance is taken when its dimension is 1 or more.
+ * Result: the new key; 0 when the same message is stored already ("AddRecToMem: Duplicated record/key
+ *         <key> found."); -1 when the fields make no message within its limits, with one line
+ *         "ValidateVcmValues: ..." for each limit broken. Nothing is stored then.
+ */
+VCM_API int64_t VcmAddSatFrFields(const char* vcmCharArray,
+                                  const double vcmNumArray[VCM_NUM_ARRAY_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * The same, for callers that cannot receive a 64-bit result.
+ *
+ * Returned: satKey  the new key, 0 or -1.
+ */
+VCM_API void VcmAddSatFrFieldsML(const char* vcmCharArray,
+                                 const double vcmNumArray[VCM_NUM_ARRAY_LENGTH],
+                                 int64_t* satKey) VCM_NOEXCEPT;
+
+/* ---- text conversions ------------------------------------------------------------------- */
+
+/*
+ * Turns a message into the one-line form. The store is not touched.
+ *
+ * Given:    vcmText   a message in any form that VcmAddSatFrLines takes (VCM_TEXT_LENGTH).
+ * Returned: vcm1Line  the one-line message.
+ * Result:   0, or 2 and blanks when the text cannot be read, or is a one-line message outside its
+ *           limits: why stands in the error trace, as for VcmAddSatFrLines. A multi-line message's
+ *           values are not held against limits.
+ *
+ * The form has no place for the leap-second time, and five columns for the satellite number: a larger
+ * one is asterisks.
+ */
+VCM_API int32_t VcmMultiLineTo1Line(const char* vcmText,
+                                    char vcm1Line[VCM_ONE_LINE_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * Turns a one-line message into lines. The store is not touched.
+ *
+ * Given:    vcm1Line  the message (VCM_ONE_LINE_LENGTH).
+ * Returned: vcmText   50 lines of 80 characters without line ends, unused ones blank. All blank when the
+ *                     message is outside its limits: that is no failure, and the error trace says why.
+ * Result:   0; 2 when the lines cannot be written, which does not happen.
+ *
+ * The leap-second time is 2049 365 23:59:59.999, which stands for an unknown one; the common name is
+ * left out.
+ */
+VCM_API int32_t Vcm1LineToMultiLine(const char* vcm1Line,
+                                    char vcmText[VCM_TEXT_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * Gives a stored message as lines.
+ *
+ * Given:    satKey   its key.
+ * Returned: vcmText  50 lines of 80 characters without line ends, unused ones blank.
+ * Result:   0, or 2 and blanks when no such message is stored: then "VcmGetLines: Unable to locate
+ *           satKey <satKey> in the VCM binary tree." stands in the error trace.
+ */
+VCM_API int32_t VcmGetLines(int64_t satKey, char vcmText[VCM_TEXT_LENGTH]) VCM_NOEXCEPT;
+
+/* ---- single fields ---------------------------------------------------------------------- */
+
+/*
+ * Reads one field of a stored message.
+ *
+ * Given:    satKey      its key.
+ *           fieldIndex  VCM_FIELD_....
+ * Returned: valueStr    the field as text, from the first character on. Blank for an index that is none.
+ * Result:   0, also for an index that is none; 2 and blanks when no such message is stored: then
+ *           "VcmGetField: Unable to locate satKey <satKey> in the VCM binary tree." stands in the error
+ *           trace.
+ */
+VCM_API int32_t VcmGetField(int64_t satKey, int32_t fieldIndex,
+                            char valueStr[VCM_FIELD_VALUE_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * Changes one field of a stored message. Satellite number and epoch may not be changed.
+ *
+ * Given:  satKey      its key.
+ *         fieldIndex  VCM_FIELD_.... An index that is none changes nothing.
+ *         valueStr    the value, blanks in front allowed (VCM_FIELD_VALUE_LENGTH). A text longer than
+ *                     its field is cut. A date may leave out the point in its seconds.
+ * Result: 0, or 2 with nothing changed and a line in the error trace:
+ *         "VcmSetField: Update to satellite's number is not allowed" or
+ *         "VcmSetField: Update to satellite's epoch is not allowed", whatever the key;
+ *         "VcmSetField: Unable to locate satKey <satKey> in the VCM binary tree.";
+ *         "ValidateVcmValues: ..." for each limit that the changed message would break;
+ *         "VcmSetField: Cannot read "<value>" as field <name>." for a text that is no date.
+ *
+ * A text that is no number counts as 0, with the host's own line in the error trace. Of two threads that
+ * change the same message at the same time, the later one's message stays as a whole.
+ */
+VCM_API int32_t VcmSetField(int64_t satKey, int32_t fieldIndex, const char* valueStr) VCM_NOEXCEPT;
+
 /* ---- all fields ------------------------------------------------------------------------- */
+
+/*
+ * Gives the fields of a stored message, VCM_FIELD_SATNUM to VCM_FIELD_WTDRMS, each in a type of its own.
+ *
+ * Given:    satKey         its key.
+ * Returned: satNum         satellite number
+ *           intlDes        international designator: launch year (2), piece (6)
+ *           epoch          yyyydddhhmmss.sss, UTC
+ *           epochRev       revolution number at epoch
+ *           eciPos         ECI (true of date) position, km
+ *           eciVel         ECI velocity, km/s
+ *           geoName        geopotential model
+ *           geoZonals      zonal terms
+ *           geoTesserals   tesseral terms
+ *           dragModel      drag model
+ *           lunarSolar     lunar and solar perturbations, ON or OFF
+ *           radPress       solar radiation pressure, ON or OFF
+ *           earthTides     solid earth tides, ON or OFF
+ *           intrackThrust  in-track thrust, ON or OFF
+ *           bTerm          ballistic coefficient, m2/kg
+ *           agom           solar radiation pressure coefficient, m2/kg
+ *           thrustAccel    thrust acceleration, m/s2
+ *           cmOffset       centre-of-mass offset, m
+ *           f10            solar flux F10
+ *           avgF10         average F10
+ *           avgAp          average Ap
+ *           timeTerms      TAI-UTC and UT1-UTC, s, UT1 rate, ms/day, polar motion, arcsec: VCM_TIME_...
+ *           nutationTerms  IAU 1980 nutation terms
+ *           leapSecondTime time-constant leap second time, as the epoch
+ *           integMode      integrator mode
+ *           partials       partials
+ *           stepMode       step mode
+ *           fixedStep      fixed step, ON or OFF
+ *           stepSelection  step size selection
+ *           initStepSize   initial step size, s
+ *           errorControl   integrator error control
+ *           wtdRms         weighted RMS of the fit
+ * Result:   0, or 2 when no such message is stored: then "VcmGetAllFields: Unable to locate satKey
+ *           <satKey> in the VCM binary tree." stands in the error trace, numbers are 0 and texts blank.
+ */
+VCM_API int32_t VcmGetAllFields(
+    int64_t satKey, int32_t* satNum, char intlDes[VCM_INTLDES_LENGTH], char epoch[VCM_DATE_LENGTH],
+    int32_t* epochRev, double eciPos[3], double eciVel[3], char geoName[VCM_GEONAME_LENGTH],
+    int32_t* geoZonals, int32_t* geoTesserals, char dragModel[VCM_DRAGMODEL_LENGTH],
+    char lunarSolar[VCM_ONOFF_LENGTH], char radPress[VCM_ONOFF_LENGTH],
+    char earthTides[VCM_ONOFF_LENGTH], char intrackThrust[VCM_ONOFF_LENGTH], double* bTerm,
+    double* agom, double* thrustAccel, double* cmOffset, int32_t* f10, int32_t* avgF10,
+    double* avgAp, double timeTerms[VCM_TIME_TERMS], int32_t* nutationTerms,
+    char leapSecondTime[VCM_DATE_LENGTH], char integMode[VCM_INTEGMODE_LENGTH],
+    char partials[VCM_PARTIALS_LENGTH], char stepMode[VCM_STEPMODE_LENGTH],
+    char fixedStep[VCM_ONOFF_LENGTH], char stepSelection[VCM_STEPSELECTION_LENGTH],
+    double* initStepSize, double* errorControl, double* wtdRms) VCM_NOEXCEPT;
 
 /*
  * Gives a stored message in the array form.
@@ -244,6 +500,62 @@ VCM_API int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT;
  */
 VCM_API int32_t VcmRetrieveAllData(int64_t satKey, char vcmCharArray[VCM_CHAR_ARRAY_LENGTH],
                                    double vcmNumArray[VCM_NUM_ARRAY_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * Replaces a stored message by one in the array form, all but its satellite number and epoch. What the
+ * form does not carry (the common name, maneuver cards) is lost.
+ *
+ * Given:  satKey        its key.
+ *         vcmCharArray  texts at the positions VCM_CHAR_... (VCM_CHAR_ARRAY_LENGTH).
+ *         vcmNumArray   numbers at the positions VCM_NUM_...; VCM_NUM_SATNUM and VCM_NUM_EPOCH do not
+ *                       count.
+ * Result: 0, or 2 with nothing changed when no such message is stored ("VcmUpdateSatFrFields: Unable to
+ *         locate satKey <satKey> in the VCM binary tree." in the error trace) or the message that is
+ *         stored breaks a limit. The new values are not held against limits.
+ *
+ * Note that the characters come before the numbers here, as in VcmRetrieveAllData and VcmAddSatFrFields;
+ * the conversions below have them the other way round.
+ */
+VCM_API int32_t VcmUpdateSatFrFields(int64_t satKey, const char* vcmCharArray,
+                                     const double vcmNumArray[VCM_NUM_ARRAY_LENGTH]) VCM_NOEXCEPT;
+
+/* ---- array form and text ---------------------------------------------------------------- */
+
+/*
+ * Turns a message into the array form. The store is not touched.
+ *
+ * Given:    vcmText       a message in any form that VcmAddSatFrLines takes (VCM_TEXT_LENGTH).
+ * Returned: vcmNumArray   numbers at the positions VCM_NUM_..., 0 elsewhere.
+ *           vcmCharArray  texts at the positions VCM_CHAR_..., blanks elsewhere.
+ * Result:   0, or 2 with zeros and blanks when the text cannot be read, or is a one-line message outside
+ *           its limits: why stands in the error trace, as for VcmAddSatFrLines.
+ */
+VCM_API int32_t VcmStringToArray(const char* vcmText, double vcmNumArray[VCM_NUM_ARRAY_LENGTH],
+                                 char vcmCharArray[VCM_CHAR_ARRAY_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * Turns the array form into a one-line message. Any double may stand anywhere: nothing is held against
+ * limits. The store is not touched.
+ *
+ * Given:    vcmNumArray   numbers at the positions VCM_NUM_....
+ *           vcmCharArray  texts at the positions VCM_CHAR_... (VCM_CHAR_ARRAY_LENGTH).
+ * Returned: vcm1Line      the message. A number that does not fit its columns is asterisks; not-a-number
+ *                         is NaN, but 0 where an integer stands, and a date of it is all zeros.
+ * Result:   0.
+ */
+VCM_API int32_t VcmArrayToVcm1Line(const double vcmNumArray[VCM_NUM_ARRAY_LENGTH],
+                                   const char* vcmCharArray,
+                                   char vcm1Line[VCM_ONE_LINE_LENGTH]) VCM_NOEXCEPT;
+
+/*
+ * Turns the array form into a multi-line message, as VcmArrayToVcm1Line into a one-line one.
+ *
+ * Returned: vcmText  50 lines of 80 characters without line ends, unused ones blank.
+ * Result:   0.
+ */
+VCM_API int32_t VcmArrayToVcmLines(const double vcmNumArray[VCM_NUM_ARRAY_LENGTH],
+                                   const char* vcmCharArray,
+                                   char vcmText[VCM_TEXT_LENGTH]) VCM_NOEXCEPT;
 
 #ifdef __cplusplus
 }

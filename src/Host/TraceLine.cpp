@@ -34,6 +34,11 @@ TraceLine& TraceLine::number(std::int64_t value, int width) {
   return text({digits.data(), length});
 }
 
+TraceLine& TraceLine::key(std::int64_t satKey) {
+  constexpr int kKeyColumns = 19;
+  return number(satKey, kKeyColumns);
+}
+
 TraceLine& TraceLine::real(double value) {
   std::array<char, 32> digits;
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,

@@ -20,6 +20,8 @@ class TraceLine {
   TraceLine& text(std::string_view text);
   // An integer right-aligned in `width` columns; more digits take more columns.
   TraceLine& number(std::int64_t value, int width = 0);
+  // A satellite key, in the columns that every message gives it.
+  TraceLine& key(std::int64_t satKey);
   // A real with 16 significant digits.
   TraceLine& real(double value);
 

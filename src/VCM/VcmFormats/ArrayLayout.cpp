@@ -1,7 +1,10 @@
 #include "VCM/VcmFormats/ArrayLayout.h"
 
 #include <array>
+#include <type_traits>
+#include <utility>
 
+#include "Host/HostCalendar.h"
 #include "VCM/VcmFormats/Field.h"
 
 namespace vcm {
@@ -13,27 +16,42 @@ using R = VcmRecord;
 // A number as it stands, or one component of a vector.
 template <auto Member, std::size_t... Component>
 constexpr ArrayNumber number(std::size_t position) {
-  return {position, [](const VcmRecord& record) {
+  return {position,
+          [](const VcmRecord& record) {
             return static_cast<double>(memberOf<Member, Component...>(record));
+          },
+          [](VcmRecord& record, double value) {
+            auto& member = memberOf<Member, Component...>(record);
+            if constexpr (std::is_integral_v<std::remove_reference_t<decltype(member)>>) {
+              member = truncated(value);
+            } else {
+              member = value;
+            }
           }};
 }
 
 // A date, as days since 1950 UTC.
 template <auto Member>
 constexpr ArrayNumber date(std::size_t position) {
-  return {position, [](const VcmRecord& record) { return inputDateToDs50(record.*Member); }};
+  return {position, [](const VcmRecord& record) { return inputDateToDs50(record.*Member); },
+          [](VcmRecord& record, double value) {
+            InputDate& date = record.*Member;
+            dyklok(&value, &date.year, &date.dayOfYear, &date.hour, &date.minute, &date.seconds);
+          }};
 }
 
 // A rate of seconds per day, as milliseconds per day.
 template <auto Member>
 constexpr ArrayNumber millisecondRate(std::size_t position) {
-  return {position,
-          [](const VcmRecord& record) { return record.*Member / kSecondsPerMillisecond; }};
+  return {position, [](const VcmRecord& record) { return record.*Member / kSecondsPerMillisecond; },
+          [](VcmRecord& record, double value) { record.*Member = value * kSecondsPerMillisecond; }};
 }
 
 template <auto Member>
 constexpr ArrayText text(std::size_t position) {
-  return {position, [](const VcmRecord& record) { return (record.*Member).view(); }};
+  return {position, std::remove_cvref_t<decltype(std::declval<R>().*Member)>::width,
+          [](const VcmRecord& record) { return (record.*Member).view(); },
+          [](VcmRecord& record, std::string_view value) { (record.*Member).assign(value); }};
 }
 
 constexpr std::array kNumbers = {

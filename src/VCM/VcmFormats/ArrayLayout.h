@@ -14,16 +14,21 @@ namespace vcm {
 inline constexpr std::size_t kArrayNumbers = VCM_NUM_ARRAY_LENGTH;
 inline constexpr std::size_t kArrayCharacters = VCM_CHAR_ARRAY_LENGTH;
 
-// One number: its position, counted from 0, and how it is taken out of a record.
+// One number: its position, counted from 0, and how it goes out of a record and into one. Any double
+// may go in: an integer is truncated and saturates at 32 bits, not-a-number is 0 there; what is no
+// date makes a date of zeros.
 struct ArrayNumber {
   std::size_t position;
   double (*get)(const VcmRecord& record);
+  void (*set)(VcmRecord& record, double value);
 };
 
-// One text: its first position, counted from 0.
+// One text: its first position, counted from 0, and its width.
 struct ArrayText {
   std::size_t position;
+  std::size_t width;
   std::string_view (*get)(const VcmRecord& record);
+  void (*set)(VcmRecord& record, std::string_view text);
 };
 
 extern const std::span<const ArrayNumber> kArrayNumberLayout;

@@ -71,4 +71,16 @@ bool readCalendarDate(std::string_view text, InputDate& date) {
          readReal(columnsOf(text, kSeconds, kSecondsWidth), 0, date.seconds);
 }
 
+void writeDayAndMonth(bool leapYear, int dayOfYear, char* out) {
+  std::array<int, kMonths.size()> days = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  days[1] += leapYear ? 1 : 0;
+  std::size_t month = 0;
+  for (; month + 1 < days.size() && dayOfYear > days[month]; ++month) {
+    dayOfYear -= days[month];
+  }
+  writeZeroFilled(out, 2, dayOfYear);
+  out[2] = ' ';
+  copyPadded(kMonths[month], out + 3, 3);
+}
+
 }  // namespace vcm

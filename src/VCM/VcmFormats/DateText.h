@@ -20,6 +20,11 @@ int writeCalendarDate(const InputDate& date, char* out);
 // are not read. False at the first that cannot be read: it and those after it keep their values.
 bool readCalendarDate(std::string_view text, InputDate& date);
 
+// The day of a year as day of month and month, "24 JUL", months taken whole from the table. A day past
+// the year's end is one of December.
+inline constexpr int kDayAndMonthWidth = 6;
+void writeDayAndMonth(bool leapYear, int dayOfYear, char* out);
+
 }  // namespace vcm
 
 #endif

@@ -48,6 +48,35 @@ bool placeNonFinite(char* out, int width, double value) {
 
 std::string_view signOf(double value) { return std::signbit(value) ? "-" : ""; }
 
+// A size as d.ddd and a power of ten, rounded to that many digits.
+class StandardForm {
+ public:
+  StandardForm(double size, int digits) {
+    const char* const end = std::to_chars(text_.data(), text_.data() + text_.size(), size,
+                                          std::chars_format::scientific, digits - 1)
+                                .ptr;
+    letter_ = static_cast<std::size_t>(std::find(text_.begin(), text_.end(), 'e') - text_.begin());
+    const char* const sign = text_.data() + letter_ + 1;
+    std::from_chars(sign + 1, end, exponent_);
+    exponent_ = *sign == '-' ? -exponent_ : exponent_;
+  }
+  std::string_view mantissa() const { return {text_.data(), letter_}; }
+  int exponent() const { return exponent_; }
+
+ private:
+  std::array<char, 64> text_;
+  std::size_t letter_ = 0;
+  int exponent_ = 0;
+};
+
+// The letter E, a sign and `digits` digits. Returns where they end.
+char* putExponent(char* at, int exponent, int digits) {
+  *at++ = 'E';
+  *at++ = exponent < 0 ? '-' : '+';
+  writeZeroFilled(at, digits, std::abs(exponent));
+  return at + digits;
+}
+
 }  // namespace
 
 void writeInteger(char* out, int width, std::int64_t value) {
@@ -85,20 +114,9 @@ void writeScientific(char* out, int width, int digits, double value) {
   if (placeNonFinite(out, width, value)) {
     return;
   }
-  // The standard form d.ddde+xx holds the same digits, one place further left.
-  std::array<char, 64> buffer;
-  const double size = std::fabs(value);
-  const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), size,
-                                        std::chars_format::scientific, digits - 1)
-                              .ptr;
-  const std::string_view standard(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-  const std::size_t letter = standard.find('e');
-  int exponent = 0;
-  std::from_chars(buffer.data() + letter + 2, end, exponent);
-  if (standard[letter + 1] == '-') {
-    exponent = -exponent;
-  }
-  exponent += size == 0.0 ? 0 : 1;
+  // The standard form holds the same digits, one place further left.
+  const StandardForm standard(std::fabs(value), digits);
+  const int exponent = standard.exponent() + (value == 0.0 ? 0 : 1);
   if (std::abs(exponent) > 99) {
     fillAsterisks(out, width);
     return;
@@ -107,16 +125,37 @@ void writeScientific(char* out, int width, int digits, double value) {
   char* at = text.data();
   *at++ = '0';
   *at++ = '.';
-  for (const char c : standard.substr(0, letter)) {
+  for (const char c : standard.mantissa()) {
     if (c != '.') {
       *at++ = c;
     }
   }
-  *at++ = 'E';
-  *at++ = exponent < 0 ? '-' : '+';
-  *at++ = static_cast<char>('0' + std::abs(exponent) / 10);
-  *at++ = static_cast<char>('0' + std::abs(exponent) % 10);
+  at = putExponent(at, exponent, 2);
   place(out, width, signOf(value), {text.data(), static_cast<std::size_t>(at - text.data())});
+}
+
+void writeGeneral(char* out, double value) {
+  if (placeNonFinite(out, kGeneralWidth, value)) {
+    return;
+  }
+  constexpr int kDigits = 17;
+  const double size = std::fabs(value);
+  const StandardForm standard(size, kDigits);
+  const int exponent = standard.exponent();
+  std::array<char, 64> text;
+  char* at = text.data();
+  if (exponent >= -1 && exponent < kDigits) {
+    const int decimals = kDigits - 1 - exponent;
+    at = std::to_chars(at, text.data() + text.size(), size, std::chars_format::fixed, decimals).ptr;
+    if (decimals == 0) {
+      *at++ = '.';
+    }
+  } else {
+    at = std::copy(standard.mantissa().begin(), standard.mantissa().end(), at);
+    at = putExponent(at, exponent, 3);
+  }
+  place(out, kGeneralWidth, signOf(value),
+        {text.data(), static_cast<std::size_t>(at - text.data())});
 }
 
 std::int32_t truncated(double value) {

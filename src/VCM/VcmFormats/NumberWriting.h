@@ -23,6 +23,12 @@ void writeFixed(char* out, int width, int decimals, double value);
 // Mantissa 0.ddd of `digits` digits, the letter E, a sign and two digits of exponent.
 void writeScientific(char* out, int width, int digits, double value);
 
+// The general notation with 17 significant digits, enough to tell any two doubles apart: plain from
+// 0.1 up to 17 digits before the point, otherwise d.ddd, the letter E, a sign and three digits of
+// exponent.
+inline constexpr int kGeneralWidth = 24;
+void writeGeneral(char* out, double value);
+
 // A real as an integer: truncated toward zero, saturating at the limits of 32 bits, 0 for
 // not-a-number.
 std::int32_t truncated(double value);

@@ -15,8 +15,6 @@ VcmMedia mediaVcm;
 
 namespace {
 
-constexpr int kKeyColumns = 19;
-
 // Guards mediaVcm and any other store: there is one gate for all.
 constinit ReadGate storeGate;
 
@@ -88,7 +86,7 @@ std::int64_t AddVcmToMem(const VcmRecord& record) {
   if (node == nullptr) {
     TraceLine()
         .text("AddRecToMem: Unable to allocate memory for key ")
-        .number(satKey, kKeyColumns)
+        .key(satKey)
         .text(".")
         .error();
     if (direct) {
@@ -101,11 +99,7 @@ std::int64_t AddVcmToMem(const VcmRecord& record) {
   std::int32_t status = kStored;
   const std::int64_t usedKey = VcmAddNode(mediaVcm, *node, status);
   if (status == kDuplicate) {
-    TraceLine()
-        .text("AddRecToMem: Duplicated record/key ")
-        .number(usedKey, kKeyColumns)
-        .text(" found.")
-        .error();
+    TraceLine().text("AddRecToMem: Duplicated record/key ").key(usedKey).text(" found.").error();
     return kDuplicateKey;
   }
   static_cast<void>(node.release());  // the tree's now: another thread may have removed it already
@@ -235,7 +229,7 @@ void VcmUpdateRec(VcmMedia& media, std::int64_t satKey, const VcmRecord& record,
   status = kNotFound;
   TraceLine()
       .text("UpdateRec: Unable to locate key ")
-      .number(satKey, kKeyColumns)
+      .key(satKey)
       .text(" in its binary tree.")
       .error();
 }
@@ -271,7 +265,7 @@ void VcmRemoveNode(VcmMedia& media, std::int64_t satKey, std::int32_t& status) {
     status = kNotFound;
     TraceLine()
         .text("RemoveNode: Unable to locate this key ")
-        .number(satKey, kKeyColumns)
+        .key(satKey)
         .text(" in its binary tree.")
         .error();
   }
@@ -311,9 +305,18 @@ BorrowedRecord::BorrowedRecord(const VcmMedia& media, std::int64_t satKey)
     VcmBeginRead();
     record_ = findInTree(media, satKey, nullptr);
   }
+  if (record_ == nullptr) {
+    giveBack();
+  }
 }
 
 BorrowedRecord::~BorrowedRecord() {
+  if (record_ != nullptr) {
+    giveBack();
+  }
+}
+
+void BorrowedRecord::giveBack() const {
   if (direct_) {
     directAddressGate.unlock_shared();
   } else {

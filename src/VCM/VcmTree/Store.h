@@ -86,7 +86,8 @@ class StoreReading {
   StoreReading& operator=(const StoreReading&) = delete;
 };
 
-// A stored record borrowed for a scope, whatever its kind of key; null when there is none.
+// A stored record borrowed for a scope, whatever its kind of key. False when there is none: then no
+// gate is held, and a message may be sent.
 class BorrowedRecord {
  public:
   BorrowedRecord(const VcmMedia& media, std::int64_t satKey);
@@ -98,6 +99,8 @@ class BorrowedRecord {
   const VcmRecord& operator*() const { return *record_; }
 
  private:
+  void giveBack() const;
+
   bool direct_;
   const VcmRecord* record_ = nullptr;
 };

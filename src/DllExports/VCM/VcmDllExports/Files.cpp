@@ -1,7 +1,7 @@
-#include <array>
 #include <cstdio>
 #include <string>
 
+#include "DllExports/VCM/VcmDllExports/InputText.h"
 #include "Host/HostCore.h"
 #include "Host/TraceLine.h"
 #include "VCM/VcmCardReading/InputFileReader.h"
@@ -12,38 +12,32 @@
 namespace {
 
 // A caller's file name, without blanks around it.
-class FileName {
+class FileName : public vcm::InputText<VCM_FILE_NAME_LENGTH> {
  public:
-  explicit FileName(const char* array) {
-    constexpr std::int32_t kLength = VCM_FILE_NAME_LENGTH;
-    chararrtostr(array, &kLength, text_.data(), &kLength);
+  using InputText::InputText;
+  std::string_view name() const {
+    return vcm::withoutTrailingBlanks(vcm::withoutLeadingBlanks(view()));
   }
-  std::string_view view() const {
-    return vcm::withoutTrailingBlanks(vcm::withoutLeadingBlanks({text_.data(), text_.size()}));
-  }
-
- private:
-  std::array<char, VCM_FILE_NAME_LENGTH> text_;
 };
 
 }  // namespace
 
 int32_t VcmLoadFile(const char* vcmFile) VCM_NOEXCEPT {
-  const FileName name(vcmFile);
+  const FileName file(vcmFile);
   std::string message("VcmLoadFile: Reading VCMs from file \"");
-  message.append(name.view()).append("\".");
+  message.append(file.name()).append("\".");
   vcm::logInfo(message);
-  return vcm::ReadVcmsFrFile(name.view());
+  return vcm::ReadVcmsFrFile(file.name());
 }
 
 int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT {
-  const FileName name(vcmFile);
+  const FileName target(vcmFile);
   constexpr std::int32_t kCreate = 0;
   constexpr std::int32_t kAppend = 2;
   const std::int32_t mode = saveMode == 0 ? kCreate : kAppend;
-  const auto length = static_cast<std::int32_t>(name.view().size());
+  const auto length = static_cast<std::int32_t>(target.name().size());
   std::FILE* file = nullptr;
-  if (const std::int32_t code = fileopen(name.view().data(), &length, &mode, &file); code != 0) {
+  if (const std::int32_t code = fileopen(target.name().data(), &length, &mode, &file); code != 0) {
     return code;
   }
   {

@@ -1,3 +1,4 @@
+#include "DllExports/VCM/VcmDllExports/InputText.h"
 #include "Host/HostCore.h"
 #include "Host/TraceLine.h"
 #include "VCM/VcmTree/KeyListing.h"
@@ -48,10 +49,7 @@ int64_t VcmGetSatKeyML(int32_t satNum, int64_t* satKey) VCM_NOEXCEPT {
 }
 
 int64_t VcmFieldsToSatKey(int32_t satNum, const char* epoch) VCM_NOEXCEPT {
-  char text[VCM_EPOCH_TEXT_LENGTH];
-  constexpr std::int32_t kLength = VCM_EPOCH_TEXT_LENGTH;
-  chararrtostr(epoch, &kLength, text, &kLength);
-  return vcm::FieldsToSatKey(satNum, text);
+  return vcm::FieldsToSatKey(satNum, vcm::InputText<VCM_EPOCH_TEXT_LENGTH>(epoch).array());
 }
 
 void VcmFieldsToSatKeyML(int32_t satNum, const char* epoch, int64_t* satKey) VCM_NOEXCEPT {

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "Host/TraceLine.h"
+#include "DllExports/VCM/VcmDllVarsUtils/UnknownKey.h"
 #include "VCM/VcmTree/Covariance.h"
 #include "VCM/VcmTree/Store.h"
+#include "VCM/VcmTree/Validation.h"
 
 namespace vcm {
 
@@ -24,20 +25,50 @@ void Vcm2Array(const VcmRecord& record, NumberArray numbers, CharacterArray char
   }
 }
 
+VcmRecord Array2Vcm(ConstCharacterArray characters, ConstNumberArray numbers) {
+  VcmRecord record;
+  for (const ArrayNumber& number : kArrayNumberLayout) {
+    number.set(record, numbers[number.position]);
+  }
+  for (const ArrayText& text : kArrayTextLayout) {
+    text.set(record, {characters.data() + text.position, text.width});
+  }
+  if (record.covMtxSize >= 1) {
+    CovarianceTriangle values;
+    std::copy_n(numbers.data() + kArrayCovariance, values.size(), values.begin());
+    record.covMtx = Vcm1dTo2d(values);
+  }
+  return record;
+}
+
 std::int32_t GetSatToFields(std::int64_t satKey, NumberArray numbers, CharacterArray characters) {
   std::fill(characters.begin(), characters.end(), ' ');
   const BorrowedRecord record(mediaVcm, satKey);
   if (!record) {
-    constexpr int kKeyColumns = 19;
-    TraceLine()
-        .text("GetSatToFields: Unable to locate satKey ")
-        .number(satKey, kKeyColumns)
-        .text(" in the VCM binary tree.")
-        .error();
+    logUnknownKey("GetSatToFields", satKey);
     return kNotFound;
   }
   Vcm2Array(*record, numbers, characters);
   return kStored;
+}
+
+std::int32_t UpdateSatFrFields(std::int64_t satKey, ConstCharacterArray characters,
+                               ConstNumberArray numbers) {
+  VcmRecord stored;
+  VcmFindRec(mediaVcm, satKey, stored);
+  if (stored.satNum == kNoSatellite) {
+    logUnknownKey("VcmUpdateSatFrFields", satKey);
+    return kNotFound;
+  }
+  VcmRecord record = Array2Vcm(characters, numbers);
+  record.satNum = stored.satNum;
+  record.epoch = stored.epoch;
+  if (ValidateVcmValues(stored) != kGood) {
+    return kRejected;
+  }
+  std::int32_t status = kStored;
+  VcmUpdateRec(mediaVcm, satKey, record, status);
+  return status;
 }
 
 }  // namespace vcm
