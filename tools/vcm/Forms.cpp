@@ -7,8 +7,10 @@ namespace vcmtool {
 namespace {
 
 const std::map<std::string, MakeWriter*>& forms() {
-  static const std::map<std::string, MakeWriter*> names = {
-      {kDefaultForm, makeMultiLineWriter}, {kJsonForm, makeJsonWriter}, {"csv", makeCsvWriter}};
+  static const std::map<std::string, MakeWriter*> names = {{kDefaultForm, makeMultiLineWriter},
+                                                           {kOneLineForm, makeOneLineWriter},
+                                                           {kJsonForm, makeJsonWriter},
+                                                           {"csv", makeCsvWriter}};
   return names;
 }
 

@@ -10,6 +10,7 @@
 namespace vcmtool {
 
 inline constexpr const char* kDefaultForm = "multi-line";
+inline constexpr const char* kOneLineForm = "one-line";
 inline constexpr const char* kJsonForm = "json";
 
 // Adds the option --to FORM.

@@ -4,9 +4,11 @@
 
 #include <cstdio>
 
+#include "Forms.h"
 #include "Host/TraceLine.h"
 #include "JsonReading.h"
 #include "VCM/VcmCardReading/CardReader.h"
+#include "VCM/VcmCardReading/CardType.h"
 #include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmCardReading/InputFileReader.h"
 #include "VCM/VcmTypes/FixedText.h"
@@ -41,6 +43,32 @@ std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* obse
   }
   vcm::CardReader cards(file.get());
   return vcm::ReadVcmsFrFileUnit(cards, name, observer);
+}
+
+std::string formOf(const std::string& name) {
+  vcm::OpenFile file;
+  if (vcm::openInputFile(name, file) != 0) {
+    return kDefaultForm;
+  }
+  if (isJson(file.get())) {
+    return kJsonForm;
+  }
+  bool anyOneLine = false;
+  vcm::CardReader cards(file.get());
+  while (cards.next()) {
+    switch (vcm::fileCardType(cards.card())) {
+      case vcm::CardType::multiLineHeader:
+      case vcm::CardType::bareFirstLine:
+      case vcm::CardType::directive:
+        return kDefaultForm;
+      case vcm::CardType::oneLineMessage:
+        anyOneLine = true;
+        break;
+      default:
+        break;
+    }
+  }
+  return anyOneLine ? kOneLineForm : kDefaultForm;
 }
 
 }  // namespace vcmtool

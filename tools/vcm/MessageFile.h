@@ -13,6 +13,10 @@ namespace vcmtool {
 // failed.
 std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer = nullptr);
 
+// The form that a file is in, for whoever writes it again: that of its messages, or the multi-line
+// one where they are mixed.
+std::string formOf(const std::string& name);
+
 }  // namespace vcmtool
 
 #endif

@@ -39,6 +39,8 @@ MakeWriter makeMultiLineWriter;
 MakeWriter makeOneLineWriter;
 MakeWriter makeJsonWriter;
 MakeWriter makeCsvWriter;
+// For people: a line for each field.
+MakeWriter makeFieldWriter;
 
 }  // namespace vcmtool
 
