@@ -62,7 +62,9 @@ Expected readText(const json& value, std::size_t width, const Set& set) {
     return "a text expected";
   }
   const auto text = latin1OfUtf8(value.get_ref<const std::string&>());
-  if (!text) {
+  // In a message every kind of blank is a plain one.
+  const auto isOtherBlank = [](char c) { return c != ' ' && vcm::isBlank(c); };
+  if (!text || std::any_of(text->begin(), text->end(), isOtherBlank)) {
     return "a character that no message can hold";
   }
   if (text->size() > width) {

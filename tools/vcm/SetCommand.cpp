@@ -46,7 +46,8 @@ struct SetOptions {
 // A change as the command line has it, "FIELD=VALUE".
 struct Change {
   explicit Change(std::string_view text)
-      : field(fieldNamed(text.substr(0, text.find('=')))), value(text.substr(text.find('=') + 1)) {}
+      : field(fieldNamed(text.substr(0, text.find('=')))),
+        value(vcm::withoutLeadingBlanks(text.substr(text.find('=') + 1))) {}
 
   const vcm::SingleField* field;
   std::string value;
