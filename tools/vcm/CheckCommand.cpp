@@ -32,8 +32,7 @@ Examples:
   vcm check catalogue.vcm today.json
   vcm check -q *.vcm && echo all good)";
 
-// The static reader fills a store of its own, apart from the shared library's. A file that switched
-// to direct addresses must not do so for the next one.
+// A file that switched to direct addresses must not do so for the next one.
 void startAfresh() {
   constexpr std::int32_t kOrdinaryKeys = 0;
   std::int32_t status = vcm::kStored;

@@ -31,10 +31,6 @@ class JsonMessageReader {
         if (depth == 0) {
           messageDepth_ = event == json::parse_event_t::array_start ? 1 : 0;
         }
-        if (depth == messageDepth_) {
-          names_.clear();
-          repeated_.clear();
-        }
         return true;
       case json::parse_event_t::key:
         if (depth == messageDepth_ + 1 && !names_.insert(value.get<std::string>()).second) {
@@ -46,6 +42,8 @@ class JsonMessageReader {
           return true;
         }
         next([&] { return store(value); });
+        names_.clear();
+        repeated_.clear();
         return false;
     }
   }
