@@ -31,10 +31,9 @@ std::vector<std::int64_t> selectedKeys(const Selection& selection) {
     });
   }
   std::sort(found.begin(), found.end());
-  std::vector<std::int64_t> keys;
-  for (const auto& [epoch, key] : found) {
-    keys.push_back(key);
-  }
+  std::vector<std::int64_t> keys(found.size());
+  std::transform(found.begin(), found.end(), keys.begin(),
+                 [](const auto& message) { return message.second; });
   return keys;
 }
 
