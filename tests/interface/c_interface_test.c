@@ -16,6 +16,9 @@ int main(int argc, char** argv) {
   char info[VCM_INFO_LENGTH];
   char texts[VCM_CHAR_ARRAY_LENGTH];
   double numbers[VCM_NUM_ARRAY_LENGTH];
+  char text[VCM_TEXT_LENGTH];
+  char line[VCM_ONE_LINE_LENGTH];
+  char value[VCM_FIELD_VALUE_LENGTH];
   int64_t key = 0;
   int64_t* keys = NULL;
 
@@ -34,7 +37,21 @@ int main(int argc, char** argv) {
   require(VcmRetrieveAllData(key, texts, numbers) == 0, "VcmRetrieveAllData");
   require(numbers[VCM_NUM_SATNUM] == 1.0, "satellite number");
   require(memcmp(texts + VCM_CHAR_INTLDES, "89021F  ", 8) == 0, "designator");
+  require(VcmSetField(key, VCM_FIELD_BTERM, "0.125") == 0, "VcmSetField");
+  require(VcmGetField(key, VCM_FIELD_BTERM, value) == 0, "VcmGetField");
+  require(memcmp(value, "0.125000000000000 ", 18) == 0, "value of a field");
+  require(VcmGetLines(key, text) == 0 && VcmMultiLineTo1Line(text, line) == 0, "VcmGetLines");
+  require(Vcm1LineToMultiLine(line, text) == 0, "Vcm1LineToMultiLine");
+  require(VcmAddSatFrLines(text) == 0, "VcmAddSatFrLines, a duplicate");
+  require(VcmStringToArray(line, numbers, texts) == 0, "VcmStringToArray");
+  require(VcmArrayToVcmLines(numbers, texts, text) == 0, "VcmArrayToVcmLines");
+  require(VcmArrayToVcm1Line(numbers, texts, line) == 0, "VcmArrayToVcm1Line");
+  require(VcmUpdateSatFrFields(key, texts, numbers) == 0, "VcmUpdateSatFrFields");
   require(VcmRemoveSat(key) == 0 && VcmRemoveSat(key) == 2, "VcmRemoveSat");
+  VcmAddSatFrFieldsML(texts, numbers, &key);
+  require(key == keys[0] && VcmRemoveSat(key) == 0, "VcmAddSatFrFieldsML");
+  VcmAddSatFrLinesML(line, &key);
+  require(key == keys[0], "VcmAddSatFrLinesML");
   require(VcmRemoveAllSats() == 0 && VcmGetCount() == 0, "VcmRemoveAllSats");
   free(keys);
   return 0;

@@ -12,8 +12,7 @@ namespace vcm {
 inline constexpr int kFieldDateWidth = 17;
 
 // Writes the date. A fraction that rounds up to one second is carried as far as the year, so that the
-// text has its 17 characters and makes the same satellite key as the date. A part that does not fit
-// is asterisks.
+// text has its 17 characters and is a date. A part that does not fit is asterisks.
 void writeFieldDate(const InputDate& date, char* out);
 
 // Reads the date; seconds without a point have three decimals. False, and the date as it was, when a
