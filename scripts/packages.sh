@@ -16,5 +16,5 @@ need_packages() {
     "${missing[@]}" >/dev/null
 }
 
-build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev)
+build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev python3 binutils)

@@ -11,11 +11,11 @@
 #include "Findings.h"
 #include "Host/HostCore.h"
 #include "Inputs.h"
+#include "MessageFile.h"
 #include "Progress.h"
 #include "Screen.h"
 #include "StandardOutput.h"
 #include "Trace.h"
-#include "VCM/VcmCardReading/InputFileReader.h"
 #include "VCM/VcmTree/Store.h"
 
 namespace vcmtool {
@@ -24,16 +24,15 @@ namespace {
 
 constexpr const char* kFooter =
     R"(Each finding is a line FILE:LINE: REASON. LINE is the line that broke the
-message or, when a value is out of its limits, the message's first line. What
-begins with "warning:" did not keep the message out. A line of counts follows,
-unless --quiet is given. Every FILE is judged alone.
+message or, when a value is out of its limits, the message's first line; in a
+JSON file it is the number of the message. What begins with "warning:" did not keep the message out. A line of counts follows, unless
+--quiet is given. Every FILE is judged alone.
 
 Examples:
-  vcm check catalogue.vcm
+  vcm check catalogue.vcm today.json
   vcm check -q *.vcm && echo all good)";
 
-// The static reader fills a store of its own, apart from the shared library's. A file that switched
-// to direct addresses must not do so for the next one.
+// A file that switched to direct addresses must not do so for the next one.
 void startAfresh() {
   constexpr std::int32_t kOrdinaryKeys = 0;
   std::int32_t status = vcm::kStored;
@@ -66,7 +65,7 @@ void checkFile(const std::string& file, bool quiet, StandardOutput& output,
       printMessage(line);
     }
   });
-  const std::int32_t code = vcm::ReadVcmsFrFile(file, &findings);
+  const std::int32_t code = readMessageFile(file, &findings);
   verdict.tally += findings.tally();
   if (code != 0) {
     reportUnopened(file, code);

@@ -19,7 +19,11 @@ enum ExitCode : int {
 // leaves its exit code behind.
 void addCheckCommand(CLI::App& program, ExitCode& exitCode);
 void addConvertCommand(CLI::App& program, ExitCode& exitCode);
+void addExpandCommand(CLI::App& program, ExitCode& exitCode);
+void addGetCommand(CLI::App& program, ExitCode& exitCode);
 void addListCommand(CLI::App& program, ExitCode& exitCode);
+void addSetCommand(CLI::App& program, ExitCode& exitCode);
+void addShowCommand(CLI::App& program, ExitCode& exitCode);
 
 }  // namespace vcmtool
 

@@ -1,8 +1,9 @@
 #include "Findings.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
+
+#include "JsonReading.h"
 
 namespace vcmtool {
 
@@ -10,12 +11,12 @@ namespace {
 
 using vcm::MessageOutcome;
 
-// Without the name of the function that reports it.
-std::string_view reasonOf(std::string_view line) {
-  constexpr std::array<std::string_view, 3> kReporters = {
-      "ReadVCMFrFileUnit: ", "ValidateVcmValues: ", "AddRecToMem: "};
+// Without what says who reports it about which message.
+std::string_view reasonOf(std::string_view line, std::string_view messagePrefix) {
   line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
-  for (const std::string_view reporter : kReporters) {
+  for (const std::string_view reporter :
+       {std::string_view("ReadVCMFrFileUnit: "), std::string_view("ValidateVcmValues: "),
+        std::string_view("AddRecToMem: "), messagePrefix}) {
     if (line.starts_with(reporter)) {
       line.remove_prefix(reporter.size());
     }
@@ -35,7 +36,7 @@ Tally& Tally::operator+=(const Tally& other) {
 
 bool Findings::reason(std::string_view line) {
   if (inMessage_) {
-    reasons_.emplace_back(reasonOf(line));
+    reasons_.emplace_back(reasonOf(line, jsonMessagePrefix(file_, firstLine_)));
   }
   return inMessage_;
 }

@@ -1,27 +1,22 @@
 #include "Inputs.h"
 
-#include <fmt/format.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <system_error>
 
 #include "Screen.h"
-#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
 namespace {
 
-CLI::Validator fileName() {
+CLI::Validator standardInput() {
   return {[](std::string& name) {
             if (name == "-") {
-              name = "/dev/stdin";
+              name = kStandardInput;
             }
-            return name.size() <= VCM_FILE_NAME_LENGTH
-                       ? std::string()
-                       : fmt::format("the file name {} is longer than {} characters", name,
-                                     VCM_FILE_NAME_LENGTH);
+            return std::string();
           },
           ""};
 }
@@ -32,16 +27,29 @@ void addInputs(CLI::App& command, Inputs& inputs) {
   command.add_option("FILE", inputs.files, "Files to read; - is standard input")
       ->required()
       ->type_name("")
-      ->transform(fileName());
-  command.add_flag("-q,--quiet", inputs.quiet, "No information, only what went wrong");
+      ->transform(standardInput());
+  addQuiet(command, inputs.quiet);
+}
+
+void addQuiet(CLI::App& command, bool& quiet) {
+  command.add_flag("-q,--quiet", quiet, "No information, only what went wrong");
+}
+
+void addInput(CLI::App& command, const std::string& name, std::string& file) {
+  command.add_option(name, file, "File to read; - is standard input")
+      ->required()
+      ->type_name("")
+      ->transform(standardInput());
+}
+
+bool isReadable(const std::string& file) {
+  std::error_code ignored;
+  return access(file.c_str(), R_OK) == 0 && !std::filesystem::is_directory(file, ignored);
 }
 
 void reportUnopened(const std::string& file, int code) {
   // The code does not tell this file from one that its cards name.
-  std::error_code ignored;
-  const bool itself =
-      access(file.c_str(), R_OK) != 0 || std::filesystem::is_directory(file, ignored);
-  printFailure(itself ? file : file + ": a file that it names", code);
+  printFailure(isReadable(file) ? file + ": a file that it names" : file, code);
 }
 
 }  // namespace vcmtool

@@ -15,6 +15,14 @@ struct Inputs {
 
 // Adds the arguments FILE... and --quiet. The name "-" becomes that of standard input.
 void addInputs(CLI::App& command, Inputs& inputs);
+// The same one by one, for a command that reads one file.
+void addInput(CLI::App& command, const std::string& name, std::string& file);
+void addQuiet(CLI::App& command, bool& quiet);
+
+inline constexpr const char* kStandardInput = "/dev/stdin";
+
+// Whether a file of this name can be opened for reading.
+bool isReadable(const std::string& file);
 
 // Tells the user that loading `file` ended with this code of an open.
 void reportUnopened(const std::string& file, int code);

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "MessageFile.h"
 #include "Progress.h"
 #include "Screen.h"
 #include "Trace.h"
@@ -27,7 +28,7 @@ ExitCode loadFiles(const Inputs& inputs) {
   Progress progress([] { return VcmGetCount(); });
   for (const std::string& file : inputs.files) {
     progress.file(file);
-    if (const std::int32_t code = VcmLoadFile(file.c_str()); code != 0) {
+    if (const std::int32_t code = readMessageFile(file); code != 0) {
       reportUnopened(file, code);
       result = kFailed;
     }

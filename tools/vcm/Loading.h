@@ -1,4 +1,4 @@
-// Files into the shared library's store.
+// Files into the store.
 #ifndef VCM_TOOLS_LOADING_H
 #define VCM_TOOLS_LOADING_H
 

@@ -9,6 +9,7 @@
 
 #include "EpochText.h"
 #include "Host/HostCalendar.h"
+#include "PrintableText.h"
 
 namespace vcmtool {
 
@@ -19,11 +20,7 @@ constexpr std::string_view kSecondLineIndent = "\n  ";
 // "1989-021F" for 89021F. A blank one shows as "-", so that a line has as many words as any other.
 std::string designatorText(std::string_view intlDes) {
   constexpr std::size_t kYearDigits = 2;
-  std::string text(intlDes.substr(0, intlDes.find_last_not_of(' ') + 1));
-  for (char& c : text) {
-    // The text stands as its file had it; a terminal should not obey it.
-    c = std::isprint(static_cast<unsigned char>(c)) != 0 ? c : '?';
-  }
+  const std::string text = printable(intlDes.substr(0, intlDes.find_last_not_of(' ') + 1));
   if (text.size() > kYearDigits && std::isdigit(static_cast<unsigned char>(text[0])) != 0 &&
       std::isdigit(static_cast<unsigned char>(text[1])) != 0) {
     const std::int32_t year = (text[0] - '0') * 10 + (text[1] - '0');

@@ -18,6 +18,18 @@ std::mutex screenLock;
 
 std::size_t progressLength = 0;
 
+int writeAll(int descriptor, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = write(descriptor, text.data(), text.size());
+    if (written >= 0) {
+      text.remove_prefix(static_cast<std::size_t>(written));
+    } else if (errno != EINTR) {
+      return errno;
+    }
+  }
+  return 0;
+}
+
 // What standard error does not take is lost: there is nowhere to report it.
 void writeError(std::string_view text) { static_cast<void>(writeAll(STDERR_FILENO, text)); }
 
@@ -38,22 +50,10 @@ int terminalColumns(int descriptor) {
   return ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kUsual;
 }
 
-int writeAll(int descriptor, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t written = write(descriptor, text.data(), text.size());
-    if (written >= 0) {
-      text.remove_prefix(static_cast<std::size_t>(written));
-    } else if (errno != EINTR) {
-      return errno;
-    }
-  }
-  return 0;
-}
-
-int writeOutput(std::string_view text) {
+int writeOutput(int descriptor, std::string_view text) {
   const std::lock_guard<std::mutex> guard(screenLock);
   eraseUnderLock();
-  return writeAll(STDOUT_FILENO, text);
+  return writeAll(descriptor, text);
 }
 
 void printMessage(std::string_view line) {

@@ -12,11 +12,9 @@ bool isTerminal(int descriptor);
 // Columns of a terminal, 80 when it does not say.
 int terminalColumns(int descriptor);
 
-// Writes everything. Returns 0 or the errno value of what went wrong.
-int writeAll(int descriptor, std::string_view text);
-
-// The same for standard output.
-int writeOutput(std::string_view text);
+// Writes everything, past the progress line where both are on one screen. Returns 0 or the errno
+// value of what went wrong.
+int writeOutput(int descriptor, std::string_view text);
 
 // Writes a line to standard error.
 void printMessage(std::string_view line);

@@ -1,33 +1,22 @@
 #include "StandardOutput.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 
 #include "Screen.h"
 
 namespace vcmtool {
 
-bool StandardOutput::lineDone() {
-  constexpr std::size_t kPiece = std::size_t{1} << 18;
-  if (buffer_.size() >= kPiece) {
-    flush();
-  }
-  return error_ == 0;
-}
+StandardOutput::StandardOutput() : TextOutput(STDOUT_FILENO) {}
 
 ExitCode StandardOutput::finish(ExitCode soFar) {
-  flush();
-  if (error_ == 0 || error_ == EPIPE) {
+  const int code = TextOutput::finish();
+  if (code == 0 || code == EPIPE) {
     return soFar;
   }
-  printFailure("standard output", error_);
+  printFailure("standard output", code);
   return kFailed;
-}
-
-void StandardOutput::flush() {
-  if (error_ == 0 && buffer_.size() > 0) {
-    error_ = writeOutput({buffer_.data(), buffer_.size()});
-  }
-  buffer_.clear();
 }
 
 }  // namespace vcmtool

@@ -14,11 +14,17 @@
 namespace {
 
 constexpr const char* kExamples = R"(Examples:
-  vcm list catalogue.vcm                 what is in a file
-  vcm check catalogue.vcm                what is wrong with it, line by line
-  vcm convert today.one -o today.vcm     one-line messages to multi-line ones
-  vcm list --help                        more about a command
+  vcm list catalogue.vcm                      what is in a file
+  vcm check catalogue.vcm                     what is wrong with it, line by line
+  vcm show catalogue.vcm 13                   the messages of satellite 13
+  vcm get catalogue.vcm 13 epoch bTerm        some of its fields
+  vcm set a.vcm 13 bTerm=0.0012 -o b.vcm      a file with one of them changed
+  vcm convert today.one -o today.vcm          one-line messages to multi-line ones
+  vcm convert a.vcm -o a.json --to json       everything, for other programs
+  vcm expand today.one today.vcm              columns copied, nothing checked
+  vcm list --help                             more about a command
 
+Files are read in every form but CSV; - is standard input.
 Exit codes: 0 fine, 1 something in the input was bad, 2 wrong usage or a file
 that cannot be read or written.)";
 
@@ -52,7 +58,9 @@ int main(int argc, char** argv) {
   program.footer(kExamples);
   program.failure_message(usageError);
   for (const auto addCommand :
-       {vcmtool::addListCommand, vcmtool::addConvertCommand, vcmtool::addCheckCommand}) {
+       {vcmtool::addListCommand, vcmtool::addCheckCommand, vcmtool::addShowCommand,
+        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addConvertCommand,
+        vcmtool::addExpandCommand}) {
     addCommand(program, exitCode);
   }
 
