@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "Command.h"
+#include "commands/Command.h"
 #include "vcm/Vcm.h"
 
 namespace {

@@ -1,0 +1,43 @@
+#include "commands/FieldNames.h"
+
+#include <fmt/format.h>
+#include <strings.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace vcmtool {
+
+const vcm::SingleField* fieldNamed(std::string_view nameOrIndex) {
+  const std::string wanted(nameOrIndex);
+  const auto found = std::find_if(
+      vcm::kSingleFields.begin(), vcm::kSingleFields.end(), [&wanted](const vcm::SingleField& row) {
+        return strcasecmp(std::string(row.name).c_str(), wanted.c_str()) == 0 ||
+               std::to_string(row.index) == wanted;
+      });
+  return found == vcm::kSingleFields.end() ? nullptr : &*found;
+}
+
+std::string unknownField(std::string_view nameOrIndex) {
+  return fieldNamed(nameOrIndex) != nullptr ? std::string()
+                                            : fmt::format("{} is no field", nameOrIndex);
+}
+
+std::string fieldNames() {
+  constexpr std::size_t kInRow = 4;
+  constexpr int kNameWidth = 15;
+  const std::size_t rows = (vcm::kSingleFields.size() + kInRow - 1) / kInRow;
+  std::string text;
+  for (std::size_t row = 0; row < rows; ++row) {
+    std::string line;
+    for (std::size_t i = row; i < vcm::kSingleFields.size(); i += rows) {
+      const vcm::SingleField& field = vcm::kSingleFields[i];
+      fmt::format_to(std::back_inserter(line), "  {:>2} {:<{}}", field.index, field.name,
+                     kNameWidth);
+    }
+    text.append(line, 0, line.find_last_not_of(' ') + 1).append("\n");
+  }
+  return text;
+}
+
+}  // namespace vcmtool

@@ -1,0 +1,55 @@
+#include "commands/Inputs.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <system_error>
+
+#include "terminal/Screen.h"
+
+namespace vcmtool {
+
+namespace {
+
+CLI::Validator standardInput() {
+  return {[](std::string& name) {
+            if (name == "-") {
+              name = kStandardInput;
+            }
+            return std::string();
+          },
+          ""};
+}
+
+}  // namespace
+
+void addInputs(CLI::App& command, Inputs& inputs) {
+  command.add_option("FILE", inputs.files, "Files to read; - is standard input")
+      ->required()
+      ->type_name("")
+      ->transform(standardInput());
+  addQuiet(command, inputs.quiet);
+}
+
+void addQuiet(CLI::App& command, bool& quiet) {
+  command.add_flag("-q,--quiet", quiet, "No information, only what went wrong");
+}
+
+void addInput(CLI::App& command, const std::string& name, std::string& file) {
+  command.add_option(name, file, "File to read; - is standard input")
+      ->required()
+      ->type_name("")
+      ->transform(standardInput());
+}
+
+bool isReadable(const std::string& file) {
+  std::error_code ignored;
+  return access(file.c_str(), R_OK) == 0 && !std::filesystem::is_directory(file, ignored);
+}
+
+void reportUnopened(const std::string& file, int code) {
+  // The code does not tell this file from one that its cards name.
+  printFailure(isReadable(file) ? file + ": a file that it names" : file, code);
+}
+
+}  // namespace vcmtool

@@ -1,0 +1,39 @@
+#include "commands/Loading.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "files/MessageFile.h"
+#include "terminal/Progress.h"
+#include "terminal/Screen.h"
+#include "terminal/Trace.h"
+#include "vcm/Vcm.h"
+
+namespace vcmtool {
+
+ExitCode loadFiles(const Inputs& inputs) {
+  ExitCode result = kFine;
+  // The count line has no place for messages that are refused at the store's door, so what is bad
+  // is told from the error lines: each stands for a bad message unless it reports a duplicate.
+  const Trace trace([&](bool isError, std::string_view line) {
+    if (isError && !line.starts_with("AddRecToMem: Duplicated")) {
+      result = std::max(result, kBadInput);
+    }
+    if (isError || !inputs.quiet) {
+      printMessage(line);
+    }
+  });
+  Progress progress([] { return VcmGetCount(); });
+  for (const std::string& file : inputs.files) {
+    progress.file(file);
+    if (const std::int32_t code = readMessageFile(file); code != 0) {
+      reportUnopened(file, code);
+      result = kFailed;
+    }
+  }
+  return result;
+}
+
+}  // namespace vcmtool

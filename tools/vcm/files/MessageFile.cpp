@@ -1,0 +1,74 @@
+#include "files/MessageFile.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+
+#include "Host/TraceLine.h"
+#include "VCM/VcmCardReading/CardReader.h"
+#include "VCM/VcmCardReading/CardType.h"
+#include "VCM/VcmCardReading/InputFile.h"
+#include "VCM/VcmCardReading/InputFileReader.h"
+#include "VCM/VcmTypes/FixedText.h"
+#include "messages/Forms.h"
+#include "messages/JsonReading.h"
+
+namespace vcmtool {
+
+namespace {
+
+// No text form of a message begins like this. The stream, wherever it was, is then at the file's
+// start.
+bool isJson(std::FILE* file) {
+  std::rewind(file);
+  int c = std::getc(file);
+  while (c != EOF && vcm::isBlank(static_cast<char>(c))) {
+    c = std::getc(file);
+  }
+  std::rewind(file);
+  return c == '[' || c == '{';
+}
+
+}  // namespace
+
+std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer) {
+  vcm::logInfo(fmt::format("Reading \"{}\"", name));
+  vcm::OpenFile file;
+  if (const std::int32_t code = vcm::openInputFile(name, file); code != 0) {
+    return code;
+  }
+  if (isJson(file.get())) {
+    readJsonMessages(file.get(), name, observer);
+    return 0;
+  }
+  vcm::CardReader cards(file.get());
+  return vcm::ReadVcmsFrFileUnit(cards, name, observer);
+}
+
+std::string formOf(const std::string& name) {
+  vcm::OpenFile file;
+  if (vcm::openInputFile(name, file) != 0) {
+    return kDefaultForm;
+  }
+  if (isJson(file.get())) {
+    return kJsonForm;
+  }
+  bool anyOneLine = false;
+  vcm::CardReader cards(file.get());
+  while (cards.next()) {
+    switch (vcm::fileCardType(cards.card())) {
+      case vcm::CardType::multiLineHeader:
+      case vcm::CardType::bareFirstLine:
+      case vcm::CardType::directive:
+        return kDefaultForm;
+      case vcm::CardType::oneLineMessage:
+        anyOneLine = true;
+        break;
+      default:
+        break;
+    }
+  }
+  return anyOneLine ? kOneLineForm : kDefaultForm;
+}
+
+}  // namespace vcmtool

@@ -1,0 +1,24 @@
+// The forms of a message that the program writes, by name.
+#ifndef VCM_TOOLS_FORMS_H
+#define VCM_TOOLS_FORMS_H
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "messages/MessageWriter.h"
+
+namespace vcmtool {
+
+inline constexpr const char* kDefaultForm = "multi-line";
+inline constexpr const char* kOneLineForm = "one-line";
+inline constexpr const char* kJsonForm = "json";
+
+// Adds the option --to FORM.
+CLI::Option* addFormOption(CLI::App& command, std::string& form);
+
+// A writer of this form.
+std::unique_ptr<MessageWriter> makeWriter(const std::string& form, TextOutput& output);
+
+}  // namespace vcmtool
+
+#endif
