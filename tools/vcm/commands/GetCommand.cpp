@@ -19,6 +19,7 @@ namespace {
 
 constexpr const char* kExamples = R"(
 A line for each message of the satellite, by epoch, values separated by tabs.
+Units are those of a message: km, km/s, s, m2/kg, arcsec; ut1Rate is in ms/day.
 
 Examples:
   vcm get catalogue.vcm 13 epoch bTerm

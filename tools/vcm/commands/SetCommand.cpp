@@ -24,7 +24,8 @@ namespace vcmtool {
 namespace {
 
 constexpr const char* kExamples = R"(
-Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss.
+Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss; units
+are those of a message: km, km/s, s, m2/kg, arcsec; ut1Rate is in ms/day.
 All messages of FILE are written; comments and cards that name other files are
 not. Nothing is written when a change is refused or does not fit the form. With
 --in-place FILE keeps its form, and stays as it is when a message in it is bad.

@@ -42,7 +42,7 @@ class CsvMessages final : public MessageWriter {
     for (const RecordField& field : kRecordFields) {
       std::visit(
           Overloaded{[&](IntegerMember member) { number(record.*member); },
-                     [&](RealMember member) { number(record.*member); },
+                     [&](const RealMember& real) { number(real.get(record)); },
                      [&](DateMember member) { text(isoDate(record.*member)); },
                      [&](const VectorMember& vector) {
                        for (const double value : record.*(vector.member)) {

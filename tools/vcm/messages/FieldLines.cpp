@@ -16,7 +16,7 @@ namespace {
 std::string valueText(const vcm::VcmRecord& record, const RecordField& field) {
   return std::visit(
       Overloaded{[&](IntegerMember member) { return fmt::format("{}", record.*member); },
-                 [&](RealMember member) { return fmt::format("{}", record.*member); },
+                 [&](const RealMember& real) { return fmt::format("{}", real.get(record)); },
                  [&](DateMember member) { return isoDate(record.*member); },
                  [&](const VectorMember& vector) {
                    return fmt::format("{}", fmt::join(record.*(vector.member), "  "));

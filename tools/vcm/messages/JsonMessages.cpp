@@ -17,7 +17,7 @@ using Json = nlohmann::ordered_json;
 Json valueOf(const vcm::VcmRecord& record, const RecordField& field) {
   return std::visit(
       Overloaded{[&](IntegerMember member) { return Json(record.*member); },
-                 [&](RealMember member) { return Json(record.*member); },
+                 [&](const RealMember& real) { return Json(real.get(record)); },
                  [&](DateMember member) { return Json(isoDate(record.*member)); },
                  [&](const VectorMember& vector) { return Json(record.*(vector.member)); },
                  [&](const TextMember& text) { return Json(utf8OfLatin1(text.get(record))); }},

@@ -150,8 +150,13 @@ Expected readField(const RecordField& field, const json& value, vcm::VcmRecord& 
   return std::visit(
       Overloaded{
           [&](IntegerMember member) { return readInteger(value, record.*member); },
-          [&](RealMember member) {
-            return readReal(value, record.*member) ? kGood : "a number expected";
+          [&](const RealMember& real) -> Expected {
+            double number = 0;
+            if (!readReal(value, number)) {
+              return "a number expected";
+            }
+            real.set(record, number);
+            return kGood;
           },
           [&](DateMember member) { return readDate(value, record.*member); },
           [&](const VectorMember& vector) { return readVector(value, record.*(vector.member)); },

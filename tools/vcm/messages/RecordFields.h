@@ -16,8 +16,13 @@
 namespace vcmtool {
 
 using IntegerMember = std::int32_t vcm::VcmRecord::*;
-using RealMember = double vcm::VcmRecord::*;
 using DateMember = vcm::InputDate vcm::VcmRecord::*;
+
+// In the unit of its name.
+struct RealMember {
+  double (*get)(const vcm::VcmRecord& record);
+  void (*set)(vcm::VcmRecord& record, double value);
+};
 
 struct VectorMember {
   vcm::Vector3 vcm::VcmRecord::*member;
