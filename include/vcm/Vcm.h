@@ -54,7 +54,7 @@ extern "C" {
 /* ---- lengths of the texts in a message, in characters ----------------------------------- */
 
 #define VCM_INTLDES_LENGTH 8       /* international designator: launch year (2), piece (6) */
-#define VCM_DATE_LENGTH 17         /* yyyydddhhmmss.sss, ddd is the day of the year */
+#define VCM_DATE_LENGTH 17         /* yyyydddhhmmss.sss (ddd: day of the year), rounded to the ms */
 #define VCM_GEONAME_LENGTH 6       /* geopotential model */
 #define VCM_DRAGMODEL_LENGTH 12    /* drag model */
 #define VCM_ONOFF_LENGTH 3         /* ON or OFF */
@@ -168,6 +168,7 @@ extern "C" {
 #define VCM_NUM_COVMTXSIZE 47  /* covariance dimension n; below 1 there is none */
 #define VCM_NUM_WTDRMS 48      /* weighted RMS of the fit */
 #define VCM_NUM_COVARIANCE 100 /* to 144: lower triangle of 9 x 9, row by row */
+/* The covariance's rows and columns are af, ag, L, n, chi, psi, B, Bdot, AGOM. */
 
 /* ---- positions in the character array, counted from 0 ----------------------------------- */
 
@@ -313,8 +314,10 @@ VCM_API int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT;
  * Adds one message to the store.
  *
  * Given:  vcmText  a multi-line message, as lines of 80 characters, as lines that end with LF or CR LF,
- *                  or as one string, or a one-line message (VCM_TEXT_LENGTH). What follows the message
- *                  does not count.
+ *                  or as one string (VCM_TEXT_LENGTH); or a one-line message, of which no more than
+ *                  VCM_ONE_LINE_LENGTH characters are read. It begins with the first character and has
+ *                  its header; what follows it does not count. Lines of files that lack the header
+ *                  are for VcmLoadFile alone.
  * Result: the new key; 0 when the same message is stored already ("AddRecToMem: Duplicated record/key
  *         <key> found."); -1 when the text makes no message within its limits. Nothing is stored then.
  *
@@ -325,7 +328,7 @@ VCM_API int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT;
  * that cannot be read is zero, in silence, and so are those behind it on its line.
  *
  * Messages that make the same key and differ in state, ballistic or radiation pressure coefficient are
- * kept both: the later one gets the next free key.
+ * kept both: the later one gets the next free key. With direct addresses every message is new.
  */
 VCM_API int64_t VcmAddSatFrLines(const char* vcmText) VCM_NOEXCEPT;
 
@@ -421,7 +424,7 @@ VCM_API int32_t VcmGetField(int64_t satKey, int32_t fieldIndex,
  * Given:  satKey      its key.
  *         fieldIndex  VCM_FIELD_.... An index that is none changes nothing.
  *         valueStr    the value, blanks in front allowed (VCM_FIELD_VALUE_LENGTH). A text longer than
- *                     its field is cut. A date may leave out the point in its seconds.
+ *                     its field is cut. A date may leave out the point, but not the three decimals.
  * Result: 0, or 2 with nothing changed and a line in the error trace:
  *         "VcmSetField: Update to satellite's number is not allowed" or
  *         "VcmSetField: Update to satellite's epoch is not allowed", whatever the key;
@@ -540,7 +543,9 @@ VCM_API int32_t VcmStringToArray(const char* vcmText, double vcmNumArray[VCM_NUM
  * Given:    vcmNumArray   numbers at the positions VCM_NUM_....
  *           vcmCharArray  texts at the positions VCM_CHAR_... (VCM_CHAR_ARRAY_LENGTH).
  * Returned: vcm1Line      the message. A number that does not fit its columns is asterisks; not-a-number
- *                         is NaN, but 0 where an integer stands, and a date of it is all zeros.
+ *                         is NaN, but 0 where an integer stands. A date outside the calendar (years
+ *                         1 to 9999) is all zeros; 0 days are 1949, day 365. A covariance dimension
+ *                         above 9 stands as it is, with 9 x 9 values.
  * Result:   0.
  */
 VCM_API int32_t VcmArrayToVcm1Line(const double vcmNumArray[VCM_NUM_ARRAY_LENGTH],

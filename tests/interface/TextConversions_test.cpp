@@ -57,6 +57,21 @@ TEST_F(TextConversions, WhatHasNoPlaceInTheOneLineForm) {
   EXPECT_EQ(line.substr(1247, 26), "  0.00000E+00  0.00000E+00");
 }
 
+TEST_F(TextConversions, WhatOneFunctionWritesTheNextReads) {
+  // Not a character is read behind an array that a function has filled.
+  std::vector<char> line(VCM_ONE_LINE_LENGTH), again(VCM_ONE_LINE_LENGTH), area(VCM_TEXT_LENGTH);
+  const std::int64_t key = addGolden();
+  EXPECT_EQ(VcmGetLines(key, area.data()), 0);
+  EXPECT_EQ(VcmMultiLineTo1Line(area.data(), line.data()), 0);
+  EXPECT_EQ(VcmMultiLineTo1Line(line.data(), again.data()), 0);
+  EXPECT_EQ(line, again);
+  EXPECT_EQ(Vcm1LineToMultiLine(line.data(), area.data()), 0);
+  EXPECT_EQ(VcmAddSatFrLines(line.data()), 0);
+  EXPECT_EQ(VcmAddSatFrLines(area.data()), 0);
+  Arrays arrays;
+  EXPECT_EQ(VcmStringToArray(line.data(), arrays.numbers.data(), arrays.texts.data()), 0);
+}
+
 TEST_F(TextConversions, Failures) {
   const std::string blank(VCM_ONE_LINE_LENGTH, ' ');
   const std::string blankLines(VCM_TEXT_LENGTH, ' ');

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
+#include <utility>
 
 #include "Host/HostCore.h"
 #include "VCM/VcmFormats/Field.h"
@@ -60,11 +62,22 @@ struct FieldDate {
 
 // ---- rows ---------------------------------------------------------------------------------------
 
+constexpr FieldKind kindOf(const std::int32_t&) { return FieldKind::integer; }
+constexpr FieldKind kindOf(const double&) { return FieldKind::real; }
+constexpr FieldKind kindOf(const InputDate&) { return FieldKind::date; }
+template <std::size_t N>
+constexpr FieldKind kindOf(const FixedText<N>&) {
+  return FieldKind::text;
+}
+
 template <auto Member, class Format, std::size_t... Component>
 constexpr SingleField row(std::int32_t index, std::string_view name) {
   constexpr Field kField = field<Member, Format, Component...>({}, Column{1});
+  constexpr FieldKind kKind = kindOf(
+      std::remove_cvref_t<decltype(memberOf<Member, Component...>(std::declval<VcmRecord&>()))>());
   return {index,
           name,
+          kKind,
           kField.width,
           [](const VcmRecord& record, char* out) {
             Format::write(memberOf<Member, Component...>(record), out);

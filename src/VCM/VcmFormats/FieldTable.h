@@ -10,9 +10,12 @@
 
 namespace vcm {
 
+enum class FieldKind { integer, real, text, date };
+
 struct SingleField {
   std::int32_t index;
   std::string_view name;
+  FieldKind kind;
   int width;
   // Fills `width` characters at `out`.
   void (*write)(const VcmRecord& record, char* out);

@@ -25,8 +25,9 @@ namespace {
 constexpr const char* kFooter =
     R"(Each finding is a line FILE:LINE: REASON. LINE is the line that broke the
 message or, when a value is out of its limits, the message's first line; in a
-JSON file it is the number of the message. What begins with "warning:" did not keep the message out. A line of counts follows, unless
---quiet is given. Every FILE is judged alone.
+JSON file it is the number of the message. What begins with "warning:" did not
+keep the message out. A line of counts follows, unless --quiet is given. Every
+FILE is judged alone.
 
 Examples:
   vcm check catalogue.vcm today.json

@@ -16,7 +16,8 @@ namespace {
 
 constexpr const char* kFooter =
     R"(Messages of all files go into OUT by ascending key, each once: that is by
-satellite number and epoch for numbers up to 524287. Bad messages are left out;
+satellite number and epoch for numbers up to 524287, unless a card QZ_DMA_ON
+makes keys of addresses. Bad messages are left out;
 OUT is not touched when a file cannot be read or OUT cannot be written in full.
 OUT may be one of the files.
 
@@ -33,7 +34,7 @@ Examples:
   vcm convert monday.vcm tuesday.one -o both.json --to json
   vcm convert -q old.vcm -o old.vcm           sorted, duplicates dropped
   vcm convert -q today.one -o - | gzip > today.vcm.gz
-  vcm convert -q today.vcm -o - --to json | jq .[].eci_position_km)";
+  vcm convert -q today.vcm -o - --to json | jq '.[].eci_position_km')";
 
 struct ConvertOptions {
   Inputs inputs;

@@ -23,7 +23,9 @@ namespace {
 
 constexpr const char* kFooter =
     R"(Text is copied as it stands: no number is read, nothing is checked, every line
-counts as a message. For messages that are read and checked, see vcm convert.
+counts as a message. Common name and designator are taken one column to the
+right of where one-line messages have them: what is to be read again as
+messages is a task for vcm convert.
 A backslash in a name counts as a slash.
 
 Examples:

@@ -44,7 +44,9 @@ void addInput(CLI::App& command, const std::string& name, std::string& file) {
 
 bool isReadable(const std::string& file) {
   std::error_code ignored;
-  return access(file.c_str(), R_OK) == 0 && !std::filesystem::is_directory(file, ignored);
+  // As the library opens it: blanks at the end do not count.
+  const std::string name = file.substr(0, file.find_last_not_of(' ') + 1);
+  return access(name.c_str(), R_OK) == 0 && !std::filesystem::is_directory(name, ignored);
 }
 
 void reportUnopened(const std::string& file, int code) {

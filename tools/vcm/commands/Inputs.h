@@ -11,6 +11,7 @@ namespace vcmtool {
 struct Inputs {
   std::vector<std::string> files;
   bool quiet = false;
+  bool duplicatesAreBad = false;
 };
 
 // Adds the arguments FILE... and --quiet. The name "-" becomes that of standard input.

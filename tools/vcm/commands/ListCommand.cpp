@@ -60,7 +60,9 @@ ExitCode list(const ListOptions& options) {
   const SatelliteTable table(isTerminal(STDOUT_FILENO) &&
                              terminalColumns(STDOUT_FILENO) < SatelliteTable::kLineWidth);
   StandardOutput output;
-  table.appendHeader(output.buffer());
+  if (loaded != kFailed || VcmGetCount() > 0) {
+    table.appendHeader(output.buffer());
+  }
   MessageArrays message;
   for (const std::int64_t key : loadedKeys(orders().at(options.order))) {
     VcmRetrieveAllData(key, message.characters.data(), message.numbers.data());

@@ -18,7 +18,8 @@ ExitCode loadFiles(const Inputs& inputs) {
   // The count line has no place for messages that are refused at the store's door, so what is bad
   // is told from the error lines: each stands for a bad message unless it reports a duplicate.
   const Trace trace([&](bool isError, std::string_view line) {
-    if (isError && !line.starts_with("AddRecToMem: Duplicated")) {
+    const bool duplicate = line.starts_with("AddRecToMem: Duplicated");
+    if (isError && (inputs.duplicatesAreBad || !duplicate)) {
       result = std::max(result, kBadInput);
     }
     if (isError || !inputs.quiet) {

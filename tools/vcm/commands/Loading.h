@@ -8,7 +8,7 @@
 namespace vcmtool {
 
 // Loads all files, also those after one that fails. The library's messages go to standard error.
-// kBadInput when a message was left out for being bad; duplicates are not bad.
+// kBadInput when a message was left out for being bad; duplicates only if the inputs say so.
 ExitCode loadFiles(const Inputs& inputs);
 
 }  // namespace vcmtool

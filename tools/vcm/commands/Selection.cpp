@@ -61,8 +61,9 @@ void addSelection(CLI::App& command, Selection& selection) {
   addQuiet(command, selection.quiet);
 }
 
-ExitCode loadSelection(const Selection& selection, std::vector<std::int64_t>& keys) {
-  const ExitCode loaded = loadFiles({{selection.file}, selection.quiet});
+ExitCode loadSelection(const Selection& selection, std::vector<std::int64_t>& keys,
+                       bool duplicatesAreBad) {
+  const ExitCode loaded = loadFiles({{selection.file}, selection.quiet, duplicatesAreBad});
   if (loaded == kFailed) {
     return kFailed;
   }

@@ -24,7 +24,8 @@ void addSelection(CLI::App& command, Selection& selection);
 
 // Loads the file and gives the keys of the selected messages, by epoch. They are none when the file
 // cannot be read or has no such message: then the user has been told and the exit code says so.
-ExitCode loadSelection(const Selection& selection, std::vector<std::int64_t>& keys);
+ExitCode loadSelection(const Selection& selection, std::vector<std::int64_t>& keys,
+                       bool duplicatesAreBad = false);
 
 }  // namespace vcmtool
 

@@ -7,8 +7,9 @@
 #include <system_error>
 #include <vector>
 
-#include "VCM/VcmTypes/FixedText.h"
+#include "VCM/VcmTree/Store.h"
 #include "commands/Command.h"
+#include "commands/FieldChange.h"
 #include "commands/FieldNames.h"
 #include "commands/Inputs.h"
 #include "commands/Selection.h"
@@ -26,9 +27,12 @@ namespace {
 constexpr const char* kExamples = R"(
 Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss; units
 are those of a message: km, km/s, s, m2/kg, arcsec; ut1Rate is in ms/day.
-All messages of FILE are written; comments and cards that name other files are
-not. Nothing is written when a change is refused or does not fit the form. With
---in-place FILE keeps its form, and stays as it is when a message in it is bad.
+
+All messages of FILE are written, in its form unless --to says another: in the
+multi-line one where it has several, or is a pipe. Comments and cards that name
+other files are left out. Nothing is written when a change is refused or cannot
+be held by the form; a number that is rounded by it is told. --in-place also
+leaves a file as it is that would lose messages, forms or cards.
 
 Examples:
   vcm set a.vcm 13 bTerm=0.0012 dragModel="JACCHIA 70" -o b.vcm
@@ -44,42 +48,21 @@ struct SetOptions {
   std::string form;  // empty unless it is given
 };
 
-// A change as the command line has it, "FIELD=VALUE".
-struct Change {
-  explicit Change(std::string_view text)
-      : field(fieldNamed(text.substr(0, text.find('=')))),
-        value(vcm::withoutLeadingBlanks(text.substr(text.find('=') + 1))) {}
-
-  const vcm::SingleField* field;
-  std::string value;
-};
-
-std::string wrongChange(const std::string& text) {
-  const std::size_t end = text.find('=');
-  return end == std::string::npos ? text + " is not FIELD=VALUE"
-                                  : unknownField(text.substr(0, end));
-}
-
 void checkUsage(const SetOptions& options) {
   if (options.output.empty() && !options.inPlace) {
     throw CLI::RequiredError("--output or --in-place");
   }
-  if (options.inPlace && options.selection.file == kStandardInput) {
+  const bool standardInput = options.selection.file == kStandardInput;
+  if (options.inPlace && standardInput) {
     throw CLI::ValidationError("--in-place", "standard input has no place");
   }
   std::error_code ignored;
   if (!options.inPlace &&
       std::filesystem::equivalent(options.selection.file, options.output, ignored)) {
-    throw CLI::ValidationError("--output", options.output + " is FILE itself: give --in-place");
+    throw CLI::ValidationError(
+        "--output", options.output + (standardInput ? " is what standard input comes from"
+                                                    : " is FILE itself: give --in-place"));
   }
-}
-
-// The library cuts a text that is longer than its field.
-bool isCut(std::int64_t key, const Change& change) {
-  std::array<char, VCM_FIELD_VALUE_LENGTH> value;
-  VcmGetField(key, change.field->index, value.data());
-  return change.value.size() > static_cast<std::size_t>(change.field->width) &&
-         change.value.starts_with(vcm::withoutTrailingBlanks({value.data(), value.size()}));
 }
 
 // False when a change was refused. What the library cannot read it takes as zero, with no more than
@@ -94,45 +77,57 @@ bool change(const std::vector<std::int64_t>& keys, const std::vector<std::string
   });
   for (const std::int64_t key : keys) {
     for (const std::string& text : changes) {
-      const Change change(text);
-      const std::int32_t status = VcmSetField(key, change.field->index, change.value.c_str());
-      if (status == 0 && isCut(key, change)) {
-        printMessage(fmt::format("vcm: {}: {} has no more than {} characters", change.value,
-                                 change.field->name, change.field->width));
-        good = false;
-      }
-      good = good && status == 0;
+      const FieldChange change(text);
+      good = VcmSetField(key, change.field->index, change.value->c_str()) == 0 && good;
     }
   }
   return good;
+}
+
+bool areHeld(const std::vector<std::int64_t>& keys, const std::vector<std::string>& changes,
+             const std::string& form) {
+  bool held = true;
+  for (const std::int64_t key : keys) {
+    vcm::VcmRecord record;
+    vcm::VcmFindRec(vcm::mediaVcm, key, record);
+    for (const std::string& text : changes) {
+      held = isHeld(record, FieldChange(text), form) && held;
+    }
+  }
+  return held;
+}
+
+ExitCode refuse(const std::string& what, ExitCode code) {
+  printMessage("vcm: " + what);
+  return code;
 }
 
 ExitCode set(const SetOptions& options) {
   checkUsage(options);
   const Selection& selection = options.selection;
   std::vector<std::int64_t> keys;
-  const ExitCode loaded = loadSelection(selection, keys);
+  const ExitCode loaded = loadSelection(selection, keys, options.inPlace);
   if (keys.empty()) {
     return loaded;
   }
   if (keys.size() > 1 && !options.all) {
-    printMessage(
-        fmt::format("vcm: satellite {} has {} messages: give the key of one, as \"vcm list\" shows "
-                    "it, or --all",
-                    selection.satellite, keys.size()));
-    return kFailed;
+    return refuse(fmt::format("satellite {} has {} messages: give the key of one, as \"vcm list\" "
+                              "shows it, or --all",
+                              selection.satellite, keys.size()),
+                  kFailed);
   }
-  if (options.inPlace && loaded != kFine) {
-    printMessage(
-        fmt::format("vcm: {}: not changed, for its bad messages would be lost", selection.file));
-    return loaded;
+  const FileForm own = formOf(selection.file);
+  if (options.inPlace && (loaded != kFine || !own.loses.empty())) {
+    return refuse(fmt::format("{}: not changed, for it would lose {}", selection.file,
+                              own.loses.empty() ? "the messages that were left out" : own.loses),
+                  kBadInput);
   }
-  if (!change(keys, options.changes)) {
+  const std::string& form = options.form.empty() ? own.name : options.form;
+  if (!change(keys, options.changes) || !areHeld(keys, options.changes, form)) {
     return kBadInput;
   }
-  const std::string ownForm = options.inPlace ? formOf(selection.file) : kDefaultForm;
-  return std::max(loaded, writeMessages(options.inPlace ? selection.file : options.output,
-                                        options.form.empty() ? ownForm : options.form, true));
+  return std::max(loaded,
+                  writeMessages(options.inPlace ? selection.file : options.output, form, true));
 }
 
 }  // namespace
@@ -145,13 +140,14 @@ void addSetCommand(CLI::App& program, ExitCode& exitCode) {
   command->add_option("FIELD=VALUE", options->changes, "Fields by name or index, their values")
       ->required()
       ->type_name("")
-      ->check(wrongChange);
+      ->check(wrongFieldChange);
   command->add_flag("--all", options->all, "Change all messages of the satellite");
   CLI::Option* const output =
       command->add_option("-o,--output", options->output, "File to write; - is standard output")
           ->type_name("OUT");
-  command->add_flag("--in-place", options->inPlace, "Write FILE itself")->excludes(output);
-  addFormOption(*command, options->form);
+  command->add_flag("--in-place", options->inPlace, "Write FILE itself")
+      ->excludes(output)
+      ->excludes(addFormOption(*command, options->form));
   command->footer("Fields:\n" + fieldNames() + kExamples);
   command->callback([options, &exitCode] { exitCode = set(*options); });
 }

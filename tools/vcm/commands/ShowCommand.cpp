@@ -15,12 +15,13 @@ namespace vcmtool {
 namespace {
 
 constexpr const char* kFooter =
-    R"(All messages of the satellite are shown, by epoch.
+    R"(All messages of the satellite are shown, by epoch. The names of --fields are
+those of JSON; for those of get and set see vcm get --help.
 
 Examples:
   vcm show catalogue.vcm 13
   vcm show catalogue.vcm 13 --fields                named fields, full covariance
-  vcm show -q catalogue.vcm 13 --to json | jq .[0].epoch_utc
+  vcm show -q catalogue.vcm 13 --to json | jq '.[0].epoch_utc'
   vcm show catalogue.vcm 22550596187185             one message, by its key)";
 
 struct ShowOptions {

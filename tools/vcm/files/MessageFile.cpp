@@ -20,9 +20,11 @@ namespace {
 // No text form of a message begins like this. The stream, wherever it was, is then at the file's
 // start.
 bool isJson(std::FILE* file) {
+  constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
   std::rewind(file);
   int c = std::getc(file);
-  while (c != EOF && vcm::isBlank(static_cast<char>(c))) {
+  while (c != EOF && (vcm::isBlank(static_cast<char>(c)) ||
+                      kByteOrderMark.find(static_cast<char>(c)) != std::string_view::npos)) {
     c = std::getc(file);
   }
   std::rewind(file);
@@ -45,30 +47,43 @@ std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* obse
   return vcm::ReadVcmsFrFileUnit(cards, name, observer);
 }
 
-std::string formOf(const std::string& name) {
+FileForm formOf(const std::string& name) {
   vcm::OpenFile file;
   if (vcm::openInputFile(name, file) != 0) {
-    return kDefaultForm;
+    return {};
   }
   if (isJson(file.get())) {
-    return kJsonForm;
+    return {kJsonForm, ""};
   }
+  bool anyMultiLine = false;
   bool anyOneLine = false;
+  FileForm form;
   vcm::CardReader cards(file.get());
   while (cards.next()) {
     switch (vcm::fileCardType(cards.card())) {
       case vcm::CardType::multiLineHeader:
       case vcm::CardType::bareFirstLine:
-      case vcm::CardType::directive:
-        return kDefaultForm;
+        anyMultiLine = true;
+        break;
       case vcm::CardType::oneLineMessage:
         anyOneLine = true;
+        break;
+      case vcm::CardType::directive:
+        form.loses = "a card that names another file";
+        break;
+      case vcm::CardType::keyMode:
+        form.loses = "its key-mode card";
         break;
       default:
         break;
     }
   }
-  return anyOneLine ? kOneLineForm : kDefaultForm;
+  if (anyOneLine && !anyMultiLine) {
+    form.name = kOneLineForm;
+  } else if (anyOneLine) {
+    form.loses = "one of its two forms";
+  }
+  return form;
 }
 
 }  // namespace vcmtool

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "VCM/VcmCardReading/ReadingObserver.h"
+#include "messages/Forms.h"
 
 namespace vcmtool {
 
@@ -13,9 +14,13 @@ namespace vcmtool {
 // failed.
 std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer = nullptr);
 
-// The form that a file is in, for whoever writes it again: that of its messages, or the multi-line
-// one where they are mixed.
-std::string formOf(const std::string& name);
+// What a file is written as again: in the form of its messages, the multi-line one where they are
+// mixed.
+struct FileForm {
+  std::string name = kDefaultForm;
+  std::string loses;  // what the file would lose by that besides comments; empty for nothing
+};
+FileForm formOf(const std::string& name);
 
 }  // namespace vcmtool
 

@@ -23,7 +23,7 @@ class FittingWriter : public MessageWriter {
   // The form has no maneuver cards of its own: they follow their message.
   void maneuverCards(const vcm::VcmRecord& record);
 
-  // Looks for numbers that this form shows as asterisks, and for dates that push their line apart.
+  // Looks for numbers that this form shows as asterisks or as NaN, which is none, and for dates that push their line apart.
   void check(const vcm::VcmRecord& record, std::span<const vcm::Field> fields);
   template <class Format>
   void checkCovariance(const vcm::VcmRecord& record) {
@@ -37,11 +37,13 @@ class FittingWriter : public MessageWriter {
       misfits_.emplace_back("covMtx");
     }
   }
+  void addMisfit(std::string_view name) { misfits_.push_back(name); }
   // Tells the user what was found in this message.
   void reportMisfits(const vcm::VcmRecord& record);
 
   static bool isMisfit(std::string_view written) {
-    return written.find('*') != std::string_view::npos;
+    return written.find('*') != std::string_view::npos ||
+           written.find("NaN") != std::string_view::npos;
   }
 
  private:

@@ -1,16 +1,31 @@
 #include "messages/Forms.h"
 
 #include <map>
+#include <vector>
 
 namespace vcmtool {
 
 namespace {
 
-const std::map<std::string, MakeWriter*>& forms() {
-  static const std::map<std::string, MakeWriter*> names = {{kDefaultForm, makeMultiLineWriter},
-                                                           {kOneLineForm, makeOneLineWriter},
-                                                           {kJsonForm, makeJsonWriter},
-                                                           {"csv", makeCsvWriter}};
+struct Form {
+  MakeWriter* make;
+  ReadBack* readBack;  // null where nothing is lost
+};
+
+const std::map<std::string, Form>& forms() {
+  static const std::map<std::string, Form> names = {
+      {kDefaultForm, {makeMultiLineWriter, readMultiLineBack}},
+      {kOneLineForm, {makeOneLineWriter, readOneLineBack}},
+      {kJsonForm, {makeJsonWriter, nullptr}},
+      {"csv", {makeCsvWriter, nullptr}}};
+  return names;
+}
+
+std::vector<std::string> formNames() {
+  std::vector<std::string> names;
+  for (const auto& [name, form] : forms()) {
+    names.push_back(name);
+  }
   return names;
 }
 
@@ -18,12 +33,17 @@ const std::map<std::string, MakeWriter*>& forms() {
 
 CLI::Option* addFormOption(CLI::App& command, std::string& form) {
   return command.add_option("--to", form, "Form of the output")
-      ->check(CLI::IsMember(&forms()))
+      ->check(CLI::IsMember(formNames()))
       ->type_name("FORM");
 }
 
 std::unique_ptr<MessageWriter> makeWriter(const std::string& form, TextOutput& output) {
-  return forms().at(form)(output);
+  return forms().at(form).make(output);
+}
+
+vcm::VcmRecord asKeptBy(const std::string& form, const vcm::VcmRecord& record) {
+  ReadBack* const readBack = forms().at(form).readBack;
+  return readBack == nullptr ? record : readBack(record);
 }
 
 }  // namespace vcmtool

@@ -19,6 +19,9 @@ CLI::Option* addFormOption(CLI::App& command, std::string& form);
 // A writer of this form.
 std::unique_ptr<MessageWriter> makeWriter(const std::string& form, TextOutput& output);
 
+// What is left of a message that was written in this form and read again.
+vcm::VcmRecord asKeptBy(const std::string& form, const vcm::VcmRecord& record);
+
 }  // namespace vcmtool
 
 #endif

@@ -42,6 +42,11 @@ MakeWriter makeCsvWriter;
 // For people: a line for each field.
 MakeWriter makeFieldWriter;
 
+// A message, written and read again.
+using ReadBack = vcm::VcmRecord(const vcm::VcmRecord& record);
+ReadBack readMultiLineBack;
+ReadBack readOneLineBack;
+
 }  // namespace vcmtool
 
 #endif

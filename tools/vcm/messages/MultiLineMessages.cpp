@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <iterator>
 
+#include "VCM/VcmCardReading/MultiLineParser.h"
 #include "VCM/VcmFormats/DateText.h"
 #include "VCM/VcmFormats/MultiLineLayout.h"
 #include "VCM/VcmTree/MultiLineWriter.h"
@@ -45,6 +46,12 @@ class MultiLineMessages final : public FittingWriter {
     } else {
       check(record, dates_);
     }
+    // Without its year a designator is left out.
+    const std::string_view intlDes = record.intlDes.view();
+    constexpr std::size_t kYearDigits = 2;
+    if (vcm::isAllBlank(intlDes.substr(0, kYearDigits)) && !vcm::isAllBlank(intlDes)) {
+      addMisfit("intlDes");
+    }
     reportMisfits(record);
   }
 
@@ -53,6 +60,17 @@ class MultiLineMessages final : public FittingWriter {
 };
 
 }  // namespace
+
+vcm::VcmRecord readMultiLineBack(const vcm::VcmRecord& record) {
+  constexpr std::size_t kWidth = vcm::kMessageLineWidth;
+  std::array<char, vcm::kMaxMessageLines * kWidth> area;
+  vcm::Vcm2VcmLines(record, area);
+  std::array<std::string_view, vcm::kMaxMessageLines> lines;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    lines[i] = {area.data() + i * kWidth, kWidth};
+  }
+  return vcm::MultiLine2Vcm(lines);
+}
 
 std::unique_ptr<MessageWriter> makeMultiLineWriter(TextOutput& output) {
   return std::make_unique<MultiLineMessages>(output);

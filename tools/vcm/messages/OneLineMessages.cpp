@@ -1,4 +1,5 @@
 // Messages of one line each.
+#include "VCM/VcmCardReading/OneLineParser.h"
 #include "VCM/VcmFormats/OneLineLayout.h"
 #include "VCM/VcmTree/OneLineWriter.h"
 #include "messages/FittingWriter.h"
@@ -29,6 +30,12 @@ class OneLineMessages final : public FittingWriter {
 };
 
 }  // namespace
+
+vcm::VcmRecord readOneLineBack(const vcm::VcmRecord& record) {
+  std::array<char, vcm::kOneLineWidth> line;
+  vcm::Vcm2Vcm1Line(record, line);
+  return vcm::Vcm1Line2Vcm({line.data(), line.size()});
+}
 
 std::unique_ptr<MessageWriter> makeOneLineWriter(TextOutput& output) {
   return std::make_unique<OneLineMessages>(output);

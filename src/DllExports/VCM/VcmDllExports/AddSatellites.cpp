@@ -1,10 +1,11 @@
 #include "DllExports/VCM/VcmDllVarsUtils/AddSatellites.h"
 
 #include "DllExports/VCM/VcmDllExports/InputText.h"
+#include "DllExports/VCM/VcmDllExports/MessageText.h"
 #include "vcm/Vcm.h"
 
 int64_t VcmAddSatFrLines(const char* vcmText) VCM_NOEXCEPT {
-  return vcm::AddSatFrLines(vcm::InputText<VCM_TEXT_LENGTH>(vcmText).view());
+  return vcm::AddSatFrLines(vcm::MessageText(vcmText).view());
 }
 
 void VcmAddSatFrLinesML(const char* vcmText, int64_t* satKey) VCM_NOEXCEPT {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "DllExports/VCM/VcmDllExports/InputText.h"
+#include "DllExports/VCM/VcmDllExports/MessageText.h"
 #include "DllExports/VCM/VcmDllVarsUtils/AnyText.h"
 #include "VCM/VcmTree/MultiLineWriter.h"
 #include "VCM/VcmTree/OneLineWriter.h"
@@ -19,8 +20,7 @@ vcm::VcmRecord recordOf(const double* vcmNumArray, const char* vcmCharArray) {
 
 int32_t VcmStringToArray(const char* vcmText, double vcmNumArray[VCM_NUM_ARRAY_LENGTH],
                          char vcmCharArray[VCM_CHAR_ARRAY_LENGTH]) VCM_NOEXCEPT {
-  const vcm::VcmRecord record =
-      vcm::AnyVcmStrings2Vcm(vcm::InputText<VCM_TEXT_LENGTH>(vcmText).view());
+  const vcm::VcmRecord record = vcm::AnyVcmStrings2Vcm(vcm::MessageText(vcmText).view());
   if (record.parseStatus == vcm::kRejected) {
     std::fill_n(vcmNumArray, VCM_NUM_ARRAY_LENGTH, 0.0);
     std::fill_n(vcmCharArray, VCM_CHAR_ARRAY_LENGTH, ' ');

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "DllExports/VCM/VcmDllExports/InputText.h"
+#include "DllExports/VCM/VcmDllExports/MessageText.h"
 #include "DllExports/VCM/VcmDllVarsUtils/AnyText.h"
 #include "DllExports/VCM/VcmDllVarsUtils/UnknownKey.h"
 #include "VCM/VcmCardReading/OneLineParser.h"
@@ -10,8 +11,7 @@
 #include "vcm/Vcm.h"
 
 int32_t VcmMultiLineTo1Line(const char* vcmText, char vcm1Line[VCM_ONE_LINE_LENGTH]) VCM_NOEXCEPT {
-  const vcm::VcmRecord record =
-      vcm::AnyVcmStrings2Vcm(vcm::InputText<VCM_TEXT_LENGTH>(vcmText).view());
+  const vcm::VcmRecord record = vcm::AnyVcmStrings2Vcm(vcm::MessageText(vcmText).view());
   if (record.parseStatus != vcm::kGood) {
     std::fill_n(vcm1Line, VCM_ONE_LINE_LENGTH, ' ');
     return vcm::kRejected;

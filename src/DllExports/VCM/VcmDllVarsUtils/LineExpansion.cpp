@@ -17,17 +17,15 @@ namespace vcm {
 namespace {
 
 using OneLine = FixedText<kOneLineWidth>;
-using FileName = FixedText<512>;
+constexpr std::size_t kFileNameLength = 512;
 
 std::int32_t openWithSlashes(std::string_view name, std::int32_t mode, OpenFile& file) {
-  FileName slashed(name);
-  std::array<char, FileName::width> text;
-  slashed.view().copy(text.data(), text.size());
+  std::string slashed(name.substr(0, kFileNameLength));
   constexpr std::int32_t kOne = 1;
-  constexpr std::int32_t kLength = FileName::width;
-  replacestring(text.data(), &kLength, "\\", &kOne, "/", &kOne);
+  const auto length = static_cast<std::int32_t>(slashed.size());
+  replacestring(slashed.data(), &length, "\\", &kOne, "/", &kOne);
   std::FILE* stream = nullptr;
-  const std::int32_t code = fileopen(text.data(), &kLength, &mode, &stream);
+  const std::int32_t code = fileopen(slashed.data(), &length, &mode, &stream);
   file.reset(stream);
   return code;
 }

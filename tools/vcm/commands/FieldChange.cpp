@@ -1,0 +1,71 @@
+#include "commands/FieldChange.h"
+
+#include <fmt/format.h>
+
+#include "VCM/VcmFormats/FieldDate.h"
+#include "VCM/VcmTypes/FixedText.h"
+#include "commands/FieldNames.h"
+#include "messages/Forms.h"
+#include "messages/Latin1.h"
+#include "terminal/Screen.h"
+
+namespace vcmtool {
+
+namespace {
+
+bool isFieldDate(std::string_view value) {
+  vcm::InputDate date;
+  constexpr std::size_t kPoint = vcm::kFieldDateWidth - 4;
+  return value.size() == vcm::kFieldDateWidth && value[kPoint] == '.' &&
+         value.find(' ') == std::string_view::npos && vcm::readFieldDate(value, date);
+}
+
+}  // namespace
+
+FieldChange::FieldChange(std::string_view given)
+    : text(given),
+      field(fieldNamed(given.substr(0, given.find('=')))),
+      value(latin1OfUtf8(given.substr(given.find('=') + 1))) {}
+
+std::string wrongFieldChange(const std::string& text) {
+  const std::size_t end = text.find('=');
+  if (end == std::string::npos) {
+    return text + " is not FIELD=VALUE";
+  }
+  if (std::string unknown = unknownField(text.substr(0, end)); !unknown.empty()) {
+    return unknown;
+  }
+  const FieldChange change(text);
+  if (!change.value) {
+    return text + ": a character that no message can hold";
+  }
+  const std::string_view value = vcm::withoutTrailingBlanks(*change.value);
+  const auto width = static_cast<std::size_t>(change.field->width);
+  if (change.field->kind == vcm::FieldKind::text && value.size() > width) {
+    return fmt::format("{}: no more than {} characters", text, width);
+  }
+  if (change.field->kind == vcm::FieldKind::date && !isFieldDate(value)) {
+    return text + ": no date like 2016366235959.000";
+  }
+  return {};
+}
+
+bool isHeld(const vcm::VcmRecord& record, const FieldChange& change, const std::string& form) {
+  const vcm::SingleField& field = *change.field;
+  const auto textOf = [&field](const vcm::VcmRecord& message) {
+    std::string text(static_cast<std::size_t>(field.width), ' ');
+    field.write(message, text.data());
+    return std::string(vcm::withoutLeadingBlanks(vcm::withoutTrailingBlanks(text)));
+  };
+  const std::string before = textOf(record);
+  const std::string after = textOf(asKeptBy(form, record));
+  const bool rounded = field.kind == vcm::FieldKind::real;
+  if (before != after) {
+    printMessage(
+        rounded ? fmt::format("vcm: {}: {} is {} in a {} message", field.name, before, after, form)
+                : fmt::format("vcm: {}: a {} message cannot hold that", change.text, form));
+  }
+  return before == after || rounded;
+}
+
+}  // namespace vcmtool
