@@ -84,6 +84,9 @@ TEST_F(Lifecycle, CatalogueIsListedFoundReadAndRemoved) {
 
   EXPECT_EQ(VcmRemoveSat(key), 0);
   EXPECT_EQ(VcmRemoveSat(key), 2);
+  EXPECT_EQ(trace_.takeErrors(),
+            Lines{"RemoveNode: Unable to locate this key      22550596187185 in "
+                  "its binary tree."});
   EXPECT_EQ(VcmGetCount(), 299);
   EXPECT_EQ(VcmRemoveAllSats(), 0);
   EXPECT_EQ(VcmGetCount(), 0);

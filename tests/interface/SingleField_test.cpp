@@ -195,7 +195,14 @@ TEST_F(SingleField, ValuesOfFullLengthAndDirectAddresses) {
   EXPECT_EQ(VcmRemoveSat(key), 0);
   EXPECT_EQ(VcmGetField(key, VCM_FIELD_AVGAP, value.data()), 2);
   EXPECT_EQ(VcmSetField(key, VCM_FIELD_AVGAP, "1"), 2);
-  EXPECT_EQ(trace_.takeErrors().size(), 2U);
+  EXPECT_EQ(VcmRemoveSat(key), 2);
+  EXPECT_EQ(VcmRemoveSat(-10), 2);
+  std::string key19 = std::to_string(key);
+  key19.insert(0, 19 - key19.size(), ' ');
+  EXPECT_EQ(trace_.takeErrors(),
+            (Lines{unknownKey("VcmGetField", key19)[0], unknownKey("VcmSetField", key19)[0],
+                   "RemoveDMA: /DMA doesn't exist or was already deallocated",
+                   "RemoveNode: Invalid DMA key (<=0)."}));
 }
 
 }  // namespace

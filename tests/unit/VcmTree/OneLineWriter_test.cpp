@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
+#include "DllExports/VCM/VcmDllVarsUtils/AnyText.h"
 #include "VCM/VcmCardReading/OneLineParser.h"
 #include "support/Messages.h"
 #include "support/RandomRecords.h"
@@ -56,6 +59,12 @@ TEST(OneLineWriter, RandomRecordsComeBack) {
     ASSERT_EQ(again.parseStatus, vcm::kGood) << line;
     ASSERT_TRUE(again.commonName == record.commonName && again.intlDes == record.intlDes) << line;
     ASSERT_EQ(written(again), line);
+    // To multi-line, which drops the name, and back.
+    std::array<char, 4000> area;
+    ASSERT_EQ(vcm::Vcm1Line2VcmLines(line, area), 0);
+    record = vcm::AnyVcmStrings2Vcm({area.data(), area.size()});
+    record.commonName = again.commonName;
+    ASSERT_EQ(written(record), line);
   }
 }
 
