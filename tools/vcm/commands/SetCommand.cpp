@@ -29,10 +29,11 @@ Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss; units
 are those of a message: km, km/s, s, m2/kg, arcsec; ut1Rate is in ms/day.
 
 All messages of FILE are written, in its form unless --to says another: in the
-multi-line one where it has several, or is a pipe. Comments and cards that name
-other files are left out. Nothing is written when a change is refused or cannot
+multi-line one where it has several, or is a pipe. Comments, cards that name
+other files, and the time, centre and common name of multi-line messages, which
+are not read, are left out. Nothing is written when a change is refused or cannot
 be held by the form; a number that is rounded by it is told. --in-place also
-leaves a file as it is that would lose messages, forms or cards.
+leaves a file as it is that would lose more than comments.
 
 Examples:
   vcm set a.vcm 13 bTerm=0.0012 dragModel="JACCHIA 70" -o b.vcm

@@ -3,12 +3,14 @@
 #include <fmt/format.h>
 
 #include <cstdio>
+#include <string_view>
 
 #include "Host/TraceLine.h"
 #include "VCM/VcmCardReading/CardReader.h"
 #include "VCM/VcmCardReading/CardType.h"
 #include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmCardReading/InputFileReader.h"
+#include "VCM/VcmFormats/MultiLineLayout.h"
 #include "VCM/VcmTypes/FixedText.h"
 #include "messages/Forms.h"
 #include "messages/JsonReading.h"
@@ -29,6 +31,19 @@ bool isJson(std::FILE* file) {
   }
   std::rewind(file);
   return c == '[' || c == '{';
+}
+
+// Whether a line of a message holds something where readers do not look.
+bool holdsUnread(std::string_view card) {
+  constexpr std::size_t kTime = 2;
+  constexpr std::size_t kCommonName = 4;
+  for (const std::size_t line : {kTime, kCommonName}) {
+    const std::string_view empty = vcm::withoutTrailingBlanks(vcm::kMultiLineLayout[line].text);
+    if (card.starts_with(empty.substr(0, empty.find(':')))) {
+      return vcm::withoutTrailingBlanks(card) != empty;
+    }
+  }
+  return false;
 }
 
 }  // namespace
@@ -75,7 +90,9 @@ FileForm formOf(const std::string& name) {
         form.loses = "its key-mode card";
         break;
       default:
-        break;
+        if (holdsUnread(cards.card())) {
+          form.loses = "a message's time, centre or common name";
+        }
     }
   }
   if (anyOneLine && !anyMultiLine) {
