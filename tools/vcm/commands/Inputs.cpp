@@ -1,6 +1,7 @@
 #include "commands/Inputs.h"
 
 #include <unistd.h>
+#include <CLI/CLI.hpp>
 
 #include <filesystem>
 #include <system_error>

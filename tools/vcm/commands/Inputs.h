@@ -2,9 +2,12 @@
 #ifndef VCM_TOOLS_INPUTS_H
 #define VCM_TOOLS_INPUTS_H
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace vcmtool {
 

@@ -1,6 +1,7 @@
 #include "commands/Selection.h"
 
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <charconv>

@@ -2,12 +2,15 @@
 #ifndef VCM_TOOLS_SELECTION_H
 #define VCM_TOOLS_SELECTION_H
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "terminal/ExitCode.h"
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace vcmtool {
 

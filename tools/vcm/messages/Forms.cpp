@@ -1,5 +1,6 @@
 #include "messages/Forms.h"
 
+#include <CLI/CLI.hpp>
 #include <map>
 #include <vector>
 

@@ -2,10 +2,14 @@
 #ifndef VCM_TOOLS_FORMS_H
 #define VCM_TOOLS_FORMS_H
 
-#include <CLI/CLI.hpp>
 #include <string>
 
 #include "messages/MessageWriter.h"
+
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
 
 namespace vcmtool {
 
