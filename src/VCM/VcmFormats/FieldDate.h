@@ -5,11 +5,12 @@
 #include <string_view>
 
 #include "VCM/VcmTypes/InputDate.h"
+#include "vcm/Vcm.h"
 
 namespace vcm {
 
 // The date of a field, yyyydddhhmmss.sss.
-inline constexpr int kFieldDateWidth = 17;
+inline constexpr int kFieldDateWidth = VCM_DATE_LENGTH;
 
 // Writes the date. A fraction that rounds up to one second is carried as far as the year, so that the
 // text has its 17 characters and is a date. A part that does not fit is asterisks.

@@ -7,10 +7,11 @@
 
 #include "VCM/VcmFormats/Field.h"
 #include "VCM/VcmTypes/InputDate.h"
+#include "vcm/Vcm.h"
 
 namespace vcm {
 
-inline constexpr int kOneLineWidth = 1500;
+inline constexpr int kOneLineWidth = VCM_ONE_LINE_LENGTH;
 
 // Characters that the writer puts between fields.
 struct Literal {

@@ -2,8 +2,10 @@
 #ifndef VCM_VCMTREE_MULTILINEWRITER_H
 #define VCM_VCMTREE_MULTILINEWRITER_H
 
+#include <array>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "VCM/VcmTree/LineOutput.h"
 #include "VCM/VcmTypes/VcmBinTree.h"
@@ -11,6 +13,10 @@
 namespace vcm {
 
 inline constexpr std::int32_t kWritten = 1;
+
+// What a saved file begins with.
+inline constexpr std::array<std::string_view, 4> kFileHeading = {"", "", "",
+                                                                 "*** Orbital Elements - VCMs ***"};
 
 // Writes a record into an area of 80-character lines, at least 36 of them; the rest of the area is
 // blanked. Always returns kWritten; `lineCount`, if asked for, gets the number of lines.

@@ -23,7 +23,7 @@ class MultiLineMessages final : public FittingWriter {
   }
 
   void begin() override {
-    for (const std::string_view line : {"", "", "", "*** Orbital Elements - VCMs ***"}) {
+    for (const std::string_view line : vcm::kFileHeading) {
       output().line(line);
     }
   }

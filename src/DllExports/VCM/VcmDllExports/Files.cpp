@@ -42,7 +42,7 @@ int32_t VcmSaveFile(const char* vcmFile, int32_t saveMode) VCM_NOEXCEPT {
   }
   {
     vcm::LineOutput output(file);
-    for (const std::string_view line : {"", "", "", "*** Orbital Elements - VCMs ***"}) {
+    for (const std::string_view line : vcm::kFileHeading) {
       output.line(line);
     }
     vcm::VcmWriteLines(output, vcm::mediaVcm);

@@ -11,16 +11,16 @@
 #include "VCM/VcmFormats/DateText.h"
 #include "VCM/VcmFormats/ExpansionLayout.h"
 #include "VCM/VcmFormats/OneLineLayout.h"
+#include "vcm/Vcm.h"
 
 namespace vcm {
 
 namespace {
 
 using OneLine = FixedText<kOneLineWidth>;
-constexpr std::size_t kFileNameLength = 512;
 
 std::int32_t openWithSlashes(std::string_view name, std::int32_t mode, OpenFile& file) {
-  std::string slashed(name.substr(0, kFileNameLength));
+  std::string slashed(name.substr(0, std::size_t{VCM_FILE_NAME_LENGTH}));
   constexpr std::int32_t kOne = 1;
   const auto length = static_cast<std::int32_t>(slashed.size());
   replacestring(slashed.data(), &length, "\\", &kOne, "/", &kOne);
