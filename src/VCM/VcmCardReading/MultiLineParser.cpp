@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <string>
 #include <utility>
 
@@ -13,24 +14,6 @@
 namespace vcm {
 
 namespace {
-
-// Where a parser's lines come from. A line lacks its lead where the bare form does: its first
-// character then stands in column 4.
-class LineSource {
- public:
-  LineSource() = default;
-  LineSource(const LineSource&) = delete;
-  LineSource& operator=(const LineSource&) = delete;
-  virtual ~LineSource() = default;
-
-  // The next line of the message; false when there is none.
-  virtual bool next(std::string_view& line) = 0;
-  // Passes over the next line.
-  virtual void skip() = 0;
-  virtual bool isBareForm() const = 0;
-  virtual ReportedBy reportedBy(const LineLayout& layout) const = 0;
-  virtual void unreadable(std::string_view field) = 0;
-};
 
 // Columns of a line that may lack its lead.
 class Columns {
@@ -47,34 +30,77 @@ class Columns {
 };
 
 // A label's own blanks may be any kind of blank.
-bool matches(std::string_view text, std::string_view label) {
-  return text == label ||
-         (text.size() == label.size() &&
+template <std::size_t Line>
+bool hasLabel(const Columns& line) {
+  static constexpr const LineLayout& layout = kMultiLineLayout[Line];
+  constexpr std::string_view label = layout.labelText();
+  const std::string_view text = line.at(layout.label.first, layout.label.width);
+  return text.size() == label.size() &&
+         (std::memcmp(text.data(), label.data(), label.size()) == 0 ||
           std::equal(text.begin(), text.end(), label.begin(), [](char c, char wanted) {
             return c == wanted || (wanted == ' ' && isBlank(c));
           }));
 }
 
-void reject(VcmRecord& record, const LineLayout& layout, const LineSource& source) {
+void reject(VcmRecord& record, const LineLayout& layout, ReportedBy reportedBy) {
   record.parseStatus = kRejected;
-  const bool byFileReader = source.reportedBy(layout) == ReportedBy::fileReader;
-  std::string message(byFileReader ? "ReadVCMFrFileUnit" : "MultiLine2Vcm");
+  std::string message(reportedBy == ReportedBy::fileReader ? "ReadVCMFrFileUnit"
+                                                           : "MultiLine2Vcm");
   message.append(": Invalid line caused read error @ '").append(layout.name).append("'.");
   logError(message);
 }
 
-void readFields(const LineLayout& layout, const Columns& line, VcmRecord& record,
-                LineSource& source) {
-  for (const Field& field : layout.fields) {
-    if (!field.read(line.at(field.first, field.width), record)) {
-      source.unreadable(field.name);
-      return;
+// Reads the fields of a line up to the first that cannot be read; its name, empty when there is none.
+template <std::size_t Line>
+std::string_view readFields(const Columns& line, VcmRecord& record) {
+  static constexpr std::span<const Field> fields = kMultiLineLayout[Line].fields;
+  std::string_view unreadable;
+  everyIndex<fields.size()>([&]<std::size_t I>() {
+    constexpr const Field& field = fields[I];
+    if (field.read(line.at(field.first, field.width), record)) {
+      return true;
     }
+    unreadable = field.name;
+    return false;
+  });
+  return unreadable;
+}
+
+// A source gives the lines of a message:
+//   bool next(std::string_view& line)       the next line; false when there is none
+//   void skip()                             passes over the next line
+//   bool isBareForm() const                 lines lack their lead: the first character is column 4
+//   ReportedBy reportedBy(const LineLayout&) const
+//   void unreadable(std::string_view field)
+
+// Reads a line; false when it is not there or is another.
+template <std::size_t Line, class Source>
+bool readLine(Source& source, VcmRecord& record) {
+  static constexpr const LineLayout& layout = kMultiLineLayout[Line];
+  if (!layout.inBareForm && source.isBareForm()) {
+    return true;
+  }
+  if constexpr (!layout.isRead()) {
+    source.skip();
+    return true;
+  } else {
+    std::string_view text;
+    const bool present = source.next(text);
+    const Columns line(text, source.isBareForm());
+    if (!present || !hasLabel<Line>(line)) {
+      reject(record, layout, source.reportedBy(layout));
+      return false;
+    }
+    if (const std::string_view name = readFields<Line>(line, record); !name.empty()) {
+      source.unreadable(name);
+    }
+    return true;
   }
 }
 
 // Reads the rows that the covariance size announces; false when one is missing or cannot be read.
-bool readCovariance(LineSource& source, VcmRecord& record) {
+template <class Source>
+bool readCovariance(Source& source, VcmRecord& record) {
   CovarianceTriangle values{};
   const int count = covarianceValueCount(record.covMtxSize);
   for (int first = 0; first < count; first += kValuesPerRow) {
@@ -95,59 +121,46 @@ bool readCovariance(LineSource& source, VcmRecord& record) {
   return true;
 }
 
-VcmRecord parse(LineSource& source) {
+template <class Source>
+VcmRecord parse(Source& source) {
   VcmRecord record;
-  for (const LineLayout& layout : kMultiLineLayout) {
-    if (!layout.inBareForm && source.isBareForm()) {
-      continue;
-    }
-    if (!layout.isRead()) {
-      source.skip();
-      continue;
-    }
-    std::string_view text;
-    const bool present = source.next(text);
-    const Columns line(text, source.isBareForm());
-    if (!present || !matches(line.at(layout.label.first, layout.label.width), layout.labelText())) {
-      reject(record, layout, source);
-      return record;
-    }
-    readFields(layout, line, record, source);
-  }
-  if (record.covMtxSize < 1) {
+  const bool complete = everyIndex<kMultiLineLayout.size()>(
+      [&]<std::size_t I>() { return readLine<I>(source, record); });
+  if (!complete || record.covMtxSize < 1) {
     return record;
   }
   if (record.covMtxSize > kCovarianceDimension || !readCovariance(source, record)) {
-    reject(record, kMultiLineLayout.back(), source);
+    const LineLayout& layout = kMultiLineLayout.back();
+    reject(record, layout, source.reportedBy(layout));
   }
   return record;
 }
 
-class TextLines final : public LineSource {
+class TextLines {
  public:
   explicit TextLines(std::span<const std::string_view> lines) : lines_(lines) {}
 
   // Lines that a text lacks read as blanks.
-  bool next(std::string_view& line) override {
+  bool next(std::string_view& line) {
     line = next_ < lines_.size() ? lines_[next_++] : std::string_view();
     return true;
   }
-  void skip() override { ++next_; }
-  bool isBareForm() const override { return false; }
-  ReportedBy reportedBy(const LineLayout& layout) const override { return layout.reportedBy; }
-  void unreadable(std::string_view /*field*/) override {}
+  void skip() { ++next_; }
+  bool isBareForm() const { return false; }
+  ReportedBy reportedBy(const LineLayout& layout) const { return layout.reportedBy; }
+  void unreadable(std::string_view /*field*/) {}
 
  private:
   std::span<const std::string_view> lines_;
   std::size_t next_ = 0;
 };
 
-class FileLines final : public LineSource {
+class FileLines {
  public:
   FileLines(CardReader& cards, CardType firstCard, ReadingObserver* observer)
       : cards_(cards), bare_(firstCard == CardType::bareFirstLine), observer_(observer) {}
 
-  bool next(std::string_view& line) override {
+  bool next(std::string_view& line) {
     if (std::exchange(first_, false)) {
       line = firstLine();
       return true;
@@ -156,16 +169,16 @@ class FileLines final : public LineSource {
     line = present ? cards_.card() : std::string_view();
     return present;
   }
-  void skip() override {
+  void skip() {
     if (!std::exchange(first_, false)) {
       SkipLines(cards_, 1);
     }
   }
-  bool isBareForm() const override { return bare_; }
-  ReportedBy reportedBy(const LineLayout& /*layout*/) const override {
+  bool isBareForm() const { return bare_; }
+  ReportedBy reportedBy(const LineLayout& /*layout*/) const {
     return ReportedBy::fileReader;
   }
-  void unreadable(std::string_view field) override {
+  void unreadable(std::string_view field) {
     if (observer_ != nullptr) {
       observer_->unreadable(cards_.lineNumber(), field);
     }

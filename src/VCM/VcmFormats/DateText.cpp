@@ -32,7 +32,7 @@ int writeFraction(double fraction, char* out) {
   constexpr int kWidth = 6;  // a sign, a digit, the point and the decimals
   constexpr std::size_t kUsualWidth = 4;
   std::array<char, kWidth> text;
-  writeFixed(text.data(), kWidth, 3, fraction);
+  writeFixed<kWidth, 3>(text.data(), fraction);
   std::size_t first = static_cast<std::size_t>(std::count(text.begin(), text.end(), ' '));
   if (text[first] == '-' && text[first + 1] == '0') {
     text[++first] = '-';
@@ -52,23 +52,23 @@ int writeCalendarDate(const InputDate& date, char* out) {
 
   const auto at = [out](Column column) { return out + column.index(); };
   copyPadded(kCalendarForm, out, kCalendarDateWidth);
-  writeInteger(at(kYear), 4, date.year);
-  writeZeroFilled(at(kDayOfYear), 3, date.dayOfYear);
-  writeZeroFilled(at(kDayOfMonth), 2, dayOfMonth);
+  writeInteger<4>(at(kYear), date.year);
+  writeZeroFilled<3>(at(kDayOfYear), date.dayOfYear);
+  writeZeroFilled<2>(at(kDayOfMonth), dayOfMonth);
   copyPadded(kMonths[static_cast<std::size_t>(std::clamp(month, 1, 12) - 1)], at(kMonth), 3);
-  writeZeroFilled(at(kHour), 2, date.hour);
-  writeZeroFilled(at(kMinute), 2, date.minute);
+  writeZeroFilled<2>(at(kHour), date.hour);
+  writeZeroFilled<2>(at(kMinute), date.minute);
   const double whole = std::trunc(date.seconds);
-  writeZeroFilled(at(kSeconds), 2, truncated(whole));
+  writeZeroFilled<2>(at(kSeconds), truncated(whole));
   return static_cast<int>(kFraction.index()) + writeFraction(date.seconds - whole, at(kFraction));
 }
 
 bool readCalendarDate(std::string_view text, InputDate& date) {
-  return readInteger(columnsOf(text, kYear, 4), date.year) &&
-         readInteger(columnsOf(text, kDayOfYear, 3), date.dayOfYear) &&
-         readInteger(columnsOf(text, kHour, 2), date.hour) &&
-         readInteger(columnsOf(text, kMinute, 2), date.minute) &&
-         readReal(columnsOf(text, kSeconds, kSecondsWidth), 0, date.seconds);
+  return readInteger<4>(columnsOf(text, kYear, 4), date.year) &&
+         readInteger<3>(columnsOf(text, kDayOfYear, 3), date.dayOfYear) &&
+         readInteger<2>(columnsOf(text, kHour, 2), date.hour) &&
+         readInteger<2>(columnsOf(text, kMinute, 2), date.minute) &&
+         readFixed<kSecondsWidth, 3>(columnsOf(text, kSeconds, kSecondsWidth), 0, date.seconds);
 }
 
 void writeDayAndMonth(bool leapYear, int dayOfYear, char* out) {

@@ -17,8 +17,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "VCM/VcmFormats/NumberReading.h"
-#include "VCM/VcmFormats/NumberWriting.h"
+#include "VCM/VcmFormats/ColumnReading.h"
+#include "VCM/VcmFormats/ColumnWriting.h"
 #include "VCM/VcmTypes/VcmRecord.h"
 
 namespace vcm {
@@ -51,32 +51,37 @@ struct Field {
 template <int Width>
 struct Integer {
   static constexpr int width = Width;
-  static void write(std::int32_t value, char* out) { writeInteger(out, Width, value); }
-  static bool read(std::string_view text, std::int32_t& value) { return readInteger(text, value); }
+  static void write(std::int32_t value, char* out) { writeInteger<Width>(out, value); }
+  static bool read(std::string_view text, std::int32_t& value) {
+    return readInteger<Width>(text, value);
+  }
 };
 
 template <int Width>
 struct ZeroFilled {
   static constexpr int width = Width;
-  static void write(std::int32_t value, char* out) { writeZeroFilled(out, Width, value); }
-  static bool read(std::string_view text, std::int32_t& value) { return readInteger(text, value); }
+  static void write(std::int32_t value, char* out) { writeZeroFilled<Width>(out, value); }
+  static bool read(std::string_view text, std::int32_t& value) {
+    return readInteger<Width>(text, value);
+  }
 };
 
 template <int Width, int Decimals, int ImpliedDecimals>
 struct Fixed {
   static constexpr int width = Width;
-  static void write(double value, char* out) { writeFixed(out, Width, Decimals, value); }
+  static void write(double value, char* out) { writeFixed<Width, Decimals>(out, value); }
   static bool read(std::string_view text, double& value) {
-    return readReal(text, ImpliedDecimals, value);
+    return readFixed<Width, Decimals>(text, ImpliedDecimals, value);
   }
 };
 
 template <int Width, int Digits, int ImpliedDecimals>
 struct Scientific {
   static constexpr int width = Width;
-  static void write(double value, char* out) { writeScientific(out, Width, Digits, value); }
+  static constexpr int digits = Digits;
+  static void write(double value, char* out) { writeScientific<Width, Digits>(out, value); }
   static bool read(std::string_view text, double& value) {
-    return readReal(text, ImpliedDecimals, value);
+    return readScientific<Width, Digits>(text, ImpliedDecimals, value);
   }
 };
 
@@ -90,7 +95,7 @@ struct WrittenOnly : Integer<Width> {
 template <int Width>
 struct WholeReal {
   static constexpr int width = Width;
-  static void write(double value, char* out) { writeInteger(out, Width, truncated(value)); }
+  static void write(double value, char* out) { writeInteger<Width>(out, truncated(value)); }
   static bool read(std::string_view text, double& value) { return readReal(text, 0, value); }
 };
 
@@ -101,10 +106,10 @@ template <int Width, int Decimals>
 struct MillisecondRate {
   static constexpr int width = Width;
   static void write(double value, char* out) {
-    writeFixed(out, Width, Decimals, value / kSecondsPerMillisecond);
+    writeFixed<Width, Decimals>(out, value / kSecondsPerMillisecond);
   }
   static bool read(std::string_view text, double& value) {
-    if (!readReal(text, 0, value)) {
+    if (!readFixed<Width, Decimals>(text, 0, value)) {
       return false;
     }
     value *= kSecondsPerMillisecond;
@@ -191,6 +196,25 @@ constexpr std::array<Field, 3> vectorFields(const std::array<std::string_view, 3
   return {field<Member, Format, 0>(names[0], first),
           field<Member, Format, 1>(names[1], Column{first.number + step}),
           field<Member, Format, 2>(names[2], Column{first.number + 2 * step})};
+}
+
+// ---- loops over tables --------------------------------------------------------------------------
+
+// Calls visit.operator()<I>() for I = 0, 1, ... as long as it returns true: a loop whose rows are
+// constants, so that the calls through them are direct. True when it came to the end.
+template <std::size_t Count, class Visit>
+constexpr bool everyIndex(Visit&& visit) {
+  return [&]<std::size_t... I>(std::index_sequence<I...>) {
+    return (visit.template operator()<I>() && ...);
+  }(std::make_index_sequence<Count>());
+}
+
+// The same without an early end.
+template <std::size_t Count, class Visit>
+constexpr void eachIndex(Visit&& visit) {
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    (visit.template operator()<I>(), ...);
+  }(std::make_index_sequence<Count>());
 }
 
 }  // namespace vcm

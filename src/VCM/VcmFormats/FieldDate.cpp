@@ -62,20 +62,20 @@ struct SplitDate {
 void writeFieldDate(const InputDate& date, char* out) {
   const SplitDate split(date);
   const auto at = [out](Column column) { return out + column.index(); };
-  writeZeroFilled(at(kYear), 4, split.date.year);
-  writeZeroFilled(at(kDayOfYear), 3, split.date.dayOfYear);
-  writeZeroFilled(at(kHour), 2, split.date.hour);
-  writeZeroFilled(at(kMinute), 2, split.date.minute);
-  writeZeroFilled(at(kSeconds), 2, truncated(split.whole));
+  writeZeroFilled<4>(at(kYear), split.date.year);
+  writeZeroFilled<3>(at(kDayOfYear), split.date.dayOfYear);
+  writeZeroFilled<2>(at(kHour), split.date.hour);
+  writeZeroFilled<2>(at(kMinute), split.date.minute);
+  writeZeroFilled<2>(at(kSeconds), truncated(split.whole));
   writeFixed(at(kFraction), kFractionWidth, kDecimals, split.fraction);
 }
 
 bool readFieldDate(std::string_view text, InputDate& date) {
   InputDate read;
-  const bool whole = readInteger(columnsOf(text, kYear, 4), read.year) &&
-                     readInteger(columnsOf(text, kDayOfYear, 3), read.dayOfYear) &&
-                     readInteger(columnsOf(text, kHour, 2), read.hour) &&
-                     readInteger(columnsOf(text, kMinute, 2), read.minute) &&
+  const bool whole = readInteger<4>(columnsOf(text, kYear, 4), read.year) &&
+                     readInteger<3>(columnsOf(text, kDayOfYear, 3), read.dayOfYear) &&
+                     readInteger<2>(columnsOf(text, kHour, 2), read.hour) &&
+                     readInteger<2>(columnsOf(text, kMinute, 2), read.minute) &&
                      readReal(columnsOf(text, kSeconds, kSecondsWidth), kDecimals, read.seconds);
   if (whole) {
     date = read;

@@ -1,27 +1,21 @@
 #include "VCM/VcmFormats/NumberReading.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdlib>
 #include <limits>
 #include <string>
 
+#include "VCM/VcmFormats/DecimalDigits.h"
 #include "VCM/VcmTypes/FixedText.h"
 
 namespace vcm {
 
 namespace {
 
-constexpr std::uint64_t kExactMantissa = std::uint64_t{1} << 53;
 constexpr int kMaxMantissaDigits = 19;  // always fit in 64 bits
-constexpr int kMaxExactPower = 22;      // 10^22 is the largest exact power of ten
 // Exponents beyond this overflow or underflow whatever a field's digits are.
 constexpr int kHugeExponent = 1'000'000;
-
-constexpr std::array<double, kMaxExactPower + 1> kPowersOfTen = {
-    1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -196,12 +190,9 @@ bool readReal(std::string_view field, int impliedDecimals, double& value) {
     value = number.negative ? -0.0 : 0.0;
     return true;
   }
-  if (number.mantissa < kExactMantissa && number.significantDigits <= kMaxMantissaDigits &&
-      std::abs(number.exponent) <= kMaxExactPower) {
-    // Both operands are exact, so the one operation rounds correctly.
-    const auto mantissa = static_cast<double>(number.mantissa);
-    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(number.exponent))];
-    const double size = number.exponent < 0 ? mantissa / power : mantissa * power;
+  double size = 0.0;
+  if (number.significantDigits <= kMaxMantissaDigits &&
+      timesPowerOfTen(number.mantissa, number.exponent, size)) {
     value = number.negative ? -size : size;
     return true;
   }

@@ -20,6 +20,12 @@ class LineOutput {
 
   // Writes a line without its trailing blanks.
   void line(std::string_view text);
+
+  // The same for a line that is put together in place: room for `size` characters, of which those up
+  // to `last` are the line.
+  char* begin(std::size_t size);
+  void end(const char* last);
+
   void flush();
 
  private:

@@ -13,47 +13,91 @@ namespace {
 
 constexpr std::size_t kLineWidth = kMessageLineWidth;
 
-void writeLine(const LineLayout& layout, const VcmRecord& record, char* line) {
-  std::copy(layout.text.begin(), layout.text.end(), line);
-  std::size_t grown = 0;
+using LineImage = std::array<char, kLineWidth>;
+
+// A line whose fields are still blank.
+constexpr LineImage imageOf(std::string_view text) {
+  LineImage image{};
+  image.fill(' ');
+  std::copy(text.begin(), text.end(), image.begin());
+  return image;
+}
+
+constexpr std::size_t endOf(const LineLayout& layout) {
+  std::size_t end = layout.text.size();
   for (const Field& field : layout.fields) {
-    const std::size_t at = field.first.index() + grown;
-    const auto width = static_cast<std::size_t>(field.width);
-    const auto written = static_cast<std::size_t>(field.write(record, line + at));
+    end = std::max(end, field.first.index() + static_cast<std::size_t>(field.width));
+  }
+  return end;
+}
+
+// Fills a line and returns where its text ends.
+template <std::size_t Line>
+char* writeLine(const VcmRecord& record, char* line) {
+  static constexpr const LineLayout& layout = kMultiLineLayout[Line];
+  static constexpr LineImage kImage = imageOf(layout.text);
+  std::copy(kImage.begin(), kImage.end(), line);
+  std::size_t grown = 0;
+  eachIndex<layout.fields.size()>([&]<std::size_t I>() {
+    constexpr const Field& field = layout.fields[I];
+    constexpr auto width = static_cast<std::size_t>(field.width);
+    char* const at = line + field.first.index() + grown;
+    const auto written = static_cast<std::size_t>(field.write(record, at));
     if (written != width) {
       // A date that came out longer pushes the rest of its line to the right.
-      const std::string_view rest =
+      constexpr std::string_view rest =
           layout.text.substr(std::min(field.first.index() + width, layout.text.size()));
-      std::copy(rest.begin(), rest.end(), line + at + written);
+      std::copy(rest.begin(), rest.end(), at + written);
       grown += written - width;
     }
+  });
+  return line + endOf(layout) + grown;
+}
+
+char* writeCovarianceRow(std::span<const double> values, char* line) {
+  static constexpr LineImage kImage = imageOf(kLead);
+  std::copy(kImage.begin(), kImage.end(), line);
+  int inRow = 0;
+  for (const double value : values) {
+    CovarianceFormat::write(value, line + covarianceColumn(inRow++).index());
+  }
+  return line + covarianceColumn(inRow).index();
+}
+
+// Writes all lines of a message, each where begin() says and ended by end().
+template <class Lines>
+void writeMessage(const VcmRecord& record, Lines& lines) {
+  eachIndex<kMessageLines>(
+      [&]<std::size_t I>() { lines.end(writeLine<I>(record, lines.begin(kLineWidth))); });
+  const auto count = static_cast<std::size_t>(covarianceValueCount(record.covMtxSize));
+  if (count == 0) {
+    return;
+  }
+  const CovarianceTriangle triangle = Vcm2dTo1d(record.covMtx);
+  for (auto rest = std::span(triangle).first(count); !rest.empty();) {
+    const auto row = rest.first(std::min<std::size_t>(rest.size(), kValuesPerRow));
+    lines.end(writeCovarianceRow(row, lines.begin(kLineWidth)));
+    rest = rest.subspan(row.size());
   }
 }
 
-void writeCovarianceRows(const VcmRecord& record, char* line) {
-  const CovarianceTriangle values = Vcm2dTo1d(record.covMtx);
-  const int count = covarianceValueCount(record.covMtxSize);
-  for (int i = 0; i < count; ++i) {
-    const int inRow = i % kValuesPerRow;
-    if (inRow == 0) {
-      line += i == 0 ? 0 : kLineWidth;
-      std::copy(kLead.begin(), kLead.end(), line);
-    }
-    CovarianceFormat::write(values[static_cast<std::size_t>(i)],
-                            line + covarianceColumn(inRow).index());
-  }
-}
+// Lines one behind the other in an area.
+class AreaLines {
+ public:
+  explicit AreaLines(char* area) : at_(area) {}
+  char* begin(std::size_t /*size*/) { return at_; }
+  void end(const char* /*last*/) { at_ += kLineWidth; }
+
+ private:
+  char* at_;
+};
 
 }  // namespace
 
 std::int32_t Vcm2VcmLines(const VcmRecord& record, std::span<char> area, std::int32_t* lineCount) {
-  std::fill(area.begin(), area.end(), ' ');
-  char* line = area.data();
-  for (const LineLayout& layout : kMultiLineLayout) {
-    writeLine(layout, record, line);
-    line += kLineWidth;
-  }
-  writeCovarianceRows(record, line);
+  AreaLines lines(area.data());
+  writeMessage(record, lines);
+  std::fill(lines.begin(0), area.data() + area.size(), ' ');
   if (lineCount != nullptr) {
     *lineCount = kMessageLines + covarianceRowCount(record.covMtxSize);
   }
@@ -61,13 +105,8 @@ std::int32_t Vcm2VcmLines(const VcmRecord& record, std::span<char> area, std::in
 }
 
 std::int32_t Vcm2Lines(const VcmRecord& record, LineOutput& output) {
-  std::array<char, kMaxMessageLines * kLineWidth> area;
-  std::int32_t lineCount = 0;
-  const std::int32_t result = Vcm2VcmLines(record, area, &lineCount);
-  for (std::int32_t i = 0; i < lineCount; ++i) {
-    output.line({area.data() + static_cast<std::size_t>(i) * kLineWidth, kLineWidth});
-  }
-  return result;
+  writeMessage(record, output);
+  return kWritten;
 }
 
 void VcmWriteLines(LineOutput& output, const VcmMedia& media) {

@@ -32,11 +32,21 @@ constexpr std::string_view withoutTrailingBlanks(std::string_view text) {
   return text;
 }
 
+// Every character, with a real blank for any kind of blank.
+inline constexpr std::array<char, 256> kRealBlanks = [] {
+  std::array<char, 256> result{};
+  for (std::size_t i = 0; i < result.size(); ++i) {
+    const auto c = static_cast<char>(i);
+    result[i] = isBlank(c) ? ' ' : c;
+  }
+  return result;
+}();
+
 // Copies a text into `width` characters: cut or padded to the width, every blank a real one.
 constexpr void copyPadded(std::string_view from, char* to, std::size_t width) {
   const std::size_t n = std::min(from.size(), width);
   for (std::size_t i = 0; i < n; ++i) {
-    to[i] = isBlank(from[i]) ? ' ' : from[i];
+    to[i] = kRealBlanks[static_cast<unsigned char>(from[i])];
   }
   std::fill(to + n, to + width, ' ');
 }

@@ -1,0 +1,136 @@
+// Numbers out of columns of known width, the way writers put them there, digits eight at a time.
+//
+// Each of the reading functions gives what readInteger or readReal gives, to the bit: a text of any
+// other look, or shorter than its columns, is left to those.
+#ifndef VCM_VCMFORMATS_COLUMNREADING_H
+#define VCM_VCMFORMATS_COLUMNREADING_H
+
+#include <cstdint>
+#include <string_view>
+
+#include "VCM/VcmFormats/DecimalDigits.h"
+#include "VCM/VcmFormats/DigitBlocks.h"
+#include "VCM/VcmFormats/NumberReading.h"
+
+namespace vcm {
+
+// Blanks, a minus or not, digits: at most eight characters.
+struct SignedDigits {
+  // The characters in a block's highest bytes, blanks below them.
+  explicit constexpr SignedDigits(DigitBlock block) {
+    constexpr DigitBlock kBlanks = repeated(' ');
+    constexpr char kMinus = '-';
+    int before = countLeading(block, kBlanks);
+    digits = kBlockDigits - before;
+    negative = digits > 0 && static_cast<char>(block >> (before * 8)) == kMinus;
+    before += negative ? 1 : 0;
+    digits -= negative ? 1 : 0;
+    block = merged(repeated('0'), block, before);
+    invalid = nonDigits(block);
+    size = numberOf(block);
+  }
+
+  bool negative;
+  int digits;
+  DigitBlock invalid;  // zero when there is nothing else among the characters
+  std::uint32_t size;
+};
+
+template <int Width>
+SignedDigits signedDigits(const char* at) {
+  return SignedDigits(loadLast<Width>(at) | (repeated(' ') & lowBits((kBlockDigits - Width) * 8)));
+}
+
+// The N digits at `at`, up to sixteen. Bits of `invalid` are set where there is no digit.
+template <int N>
+std::uint64_t unsignedDigits(const char* at, DigitBlock& invalid) {
+  if constexpr (N > kBlockDigits) {
+    const std::uint64_t high = unsignedDigits<N - kBlockDigits>(at, invalid);
+    return high * kBlockLimit +
+           unsignedDigits<kBlockDigits>(at + (N - kBlockDigits), invalid);
+  } else {
+    const DigitBlock block =
+        loadLast<N>(at) | (repeated('0') & lowBits((kBlockDigits - N) * 8));
+    invalid |= nonDigits(block);
+    return numberOf(block);
+  }
+}
+
+template <int Width>
+bool readInteger(std::string_view field, std::int32_t& value) {
+  if constexpr (Width <= kBlockDigits) {
+    if (field.size() == Width) {
+      const SignedDigits number = signedDigits<Width>(field.data());
+      // A sign needs digits; blanks alone are zero.
+      if (number.invalid == 0 && (number.digits > 0 || !number.negative)) {
+        const auto size = static_cast<std::int32_t>(number.size);
+        value = number.negative ? -size : size;
+        return true;
+      }
+    }
+  }
+  return readInteger(field, value);
+}
+
+// A whole number, a point and `Decimals` digits. False when the field looks otherwise.
+template <int Width, int Decimals>
+bool takeFixed(std::string_view field, double& value) {
+  constexpr int kPoint = Width - Decimals - 1;
+  static_assert(kPoint <= kBlockDigits && kPoint + Decimals <= kExactDigits);
+  if (field.size() != Width || field[kPoint] != '.') {
+    return false;
+  }
+  const SignedDigits whole = signedDigits<kPoint>(field.data());
+  DigitBlock invalid = whole.invalid;
+  const std::uint64_t fraction = unsignedDigits<Decimals>(field.data() + kPoint + 1, invalid);
+  if (invalid != 0) {
+    return false;
+  }
+  constexpr std::uint64_t kScale = integerPowerOfTen(Decimals);
+  // Both operands are exact, so the one division rounds correctly.
+  const double size =
+      static_cast<double>(static_cast<std::int64_t>(whole.size * kScale + fraction)) /
+      static_cast<double>(kScale);
+  value = whole.negative ? -size : size;
+  return true;
+}
+
+// A whole number, a point, `Digits` digits, E, a sign and two digits of exponent. False when the field
+// looks otherwise.
+template <int Width, int Digits>
+bool takeScientific(std::string_view field, double& value) {
+  constexpr int kPoint = Width - Digits - 5;
+  constexpr std::size_t kLetter = Width - 4;
+  static_assert(kPoint <= kBlockDigits && kPoint + Digits <= kExactDigits);
+  if (field.size() != Width || field[kPoint] != '.' || field[kLetter] != 'E') {
+    return false;
+  }
+  const char* const exponentAt = field.data() + kLetter + 1;
+  const bool negativeExponent = *exponentAt == '-';
+  const SignedDigits whole = signedDigits<kPoint>(field.data());
+  DigitBlock invalid = whole.invalid;
+  const std::uint64_t fraction = unsignedDigits<Digits>(field.data() + kPoint + 1, invalid);
+  const auto exponent = static_cast<int>(unsignedDigits<2>(exponentAt + 1, invalid));
+  double size = 0.0;
+  if (invalid != 0 || (!negativeExponent && *exponentAt != '+') ||
+      !timesPowerOfTen(whole.size * integerPowerOfTen(Digits) + fraction,
+                       (negativeExponent ? -exponent : exponent) - Digits, size)) {
+    return false;
+  }
+  value = whole.negative ? -size : size;
+  return true;
+}
+
+template <int Width, int Decimals>
+bool readFixed(std::string_view field, int impliedDecimals, double& value) {
+  return takeFixed<Width, Decimals>(field, value) || readReal(field, impliedDecimals, value);
+}
+
+template <int Width, int Digits>
+bool readScientific(std::string_view field, int impliedDecimals, double& value) {
+  return takeScientific<Width, Digits>(field, value) || readReal(field, impliedDecimals, value);
+}
+
+}  // namespace vcm
+
+#endif
