@@ -14,22 +14,8 @@
 
 namespace vcm {
 
-// Blanks, a minus or not, digits: at most eight characters.
+// Blanks, a minus or not, digits: up to eight characters.
 struct SignedDigits {
-  // The characters in a block's highest bytes, blanks below them.
-  explicit constexpr SignedDigits(DigitBlock block) {
-    constexpr DigitBlock kBlanks = repeated(' ');
-    constexpr char kMinus = '-';
-    int before = countLeading(block, kBlanks);
-    digits = kBlockDigits - before;
-    negative = digits > 0 && static_cast<char>(block >> (before * 8)) == kMinus;
-    before += negative ? 1 : 0;
-    digits -= negative ? 1 : 0;
-    block = merged(repeated('0'), block, before);
-    invalid = nonDigits(block);
-    size = numberOf(block);
-  }
-
   bool negative;
   int digits;
   DigitBlock invalid;  // zero when there is nothing else among the characters
@@ -37,22 +23,26 @@ struct SignedDigits {
 };
 
 template <int Width>
-SignedDigits signedDigits(const char* at) {
-  return SignedDigits(loadLast<Width>(at) | (repeated(' ') & lowBits((kBlockDigits - Width) * 8)));
+inline SignedDigits signedDigits(const char* at) {
+  constexpr DigitBlock kBlanks = repeated(' ');
+  DigitBlock block = loadLast<Width>(at) | (kBlanks & lowBits((kBlockDigits - Width) * 8));
+  int before = countLeading(block, kBlanks);
+  const bool negative = before < kBlockDigits && static_cast<char>(block >> (before * 8)) == '-';
+  before += negative ? 1 : 0;
+  block = merged(repeated('0'), block, before);
+  return {negative, kBlockDigits - before, nonDigits(block), numberOf<Width>(block)};
 }
 
 // The N digits at `at`, up to sixteen. Bits of `invalid` are set where there is no digit.
 template <int N>
-std::uint64_t unsignedDigits(const char* at, DigitBlock& invalid) {
+inline std::uint64_t unsignedDigits(const char* at, DigitBlock& invalid) {
   if constexpr (N > kBlockDigits) {
     const std::uint64_t high = unsignedDigits<N - kBlockDigits>(at, invalid);
-    return high * kBlockLimit +
-           unsignedDigits<kBlockDigits>(at + (N - kBlockDigits), invalid);
+    return high * kBlockLimit + unsignedDigits<kBlockDigits>(at + (N - kBlockDigits), invalid);
   } else {
-    const DigitBlock block =
-        loadLast<N>(at) | (repeated('0') & lowBits((kBlockDigits - N) * 8));
+    const DigitBlock block = loadLast<N>(at) | (repeated('0') & lowBits((kBlockDigits - N) * 8));
     invalid |= nonDigits(block);
-    return numberOf(block);
+    return numberOf<N>(block);
   }
 }
 
@@ -95,29 +85,43 @@ bool takeFixed(std::string_view field, double& value) {
   return true;
 }
 
-// A whole number, a point, `Digits` digits, E, a sign and two digits of exponent. False when the field
+// A zero, a minus or a blank before it, and nothing but blanks before that.
+template <int Width>
+inline bool takeLeadingZero(const char* at, bool& negative) {
+  bool blank = at[Width - 1] == '0';
+  if constexpr (Width > 1) {
+    negative = at[Width - 2] == '-';
+    blank = blank && (negative || at[Width - 2] == ' ');
+  }
+  for (int i = 0; i < Width - 2; ++i) {
+    blank = blank && at[i] == ' ';
+  }
+  return blank;
+}
+
+// A leading zero, a point, `Digits` digits, E, a sign and two digits of exponent. False when the field
 // looks otherwise.
 template <int Width, int Digits>
 bool takeScientific(std::string_view field, double& value) {
   constexpr int kPoint = Width - Digits - 5;
   constexpr std::size_t kLetter = Width - 4;
-  static_assert(kPoint <= kBlockDigits && kPoint + Digits <= kExactDigits);
-  if (field.size() != Width || field[kPoint] != '.' || field[kLetter] != 'E') {
+  static_assert(Digits <= kExactDigits);
+  bool negative = false;
+  if (field.size() != Width || field[kPoint] != '.' || field[kLetter] != 'E' ||
+      !takeLeadingZero<kPoint>(field.data(), negative)) {
     return false;
   }
   const char* const exponentAt = field.data() + kLetter + 1;
   const bool negativeExponent = *exponentAt == '-';
-  const SignedDigits whole = signedDigits<kPoint>(field.data());
-  DigitBlock invalid = whole.invalid;
-  const std::uint64_t fraction = unsignedDigits<Digits>(field.data() + kPoint + 1, invalid);
+  DigitBlock invalid = negativeExponent || *exponentAt == '+' ? 0 : 1;
+  const std::uint64_t digits = unsignedDigits<Digits>(field.data() + kPoint + 1, invalid);
   const auto exponent = static_cast<int>(unsignedDigits<2>(exponentAt + 1, invalid));
   double size = 0.0;
-  if (invalid != 0 || (!negativeExponent && *exponentAt != '+') ||
-      !timesPowerOfTen(whole.size * integerPowerOfTen(Digits) + fraction,
-                       (negativeExponent ? -exponent : exponent) - Digits, size)) {
+  if (invalid != 0 ||
+      !timesPowerOfTen(digits, (negativeExponent ? -exponent : exponent) - Digits, size)) {
     return false;
   }
-  value = whole.negative ? -size : size;
+  value = negative ? -size : size;
   return true;
 }
 

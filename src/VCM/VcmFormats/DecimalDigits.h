@@ -38,31 +38,18 @@ inline constexpr std::array kExactPowersOfTen = {
     1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
     1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-// digits * 10^power, to the nearest double. False when that is not certain or too large a power.
+// digits * 10^power through a product of 128 bits, to the nearest double. False when the rounding is not
+// certain, and for what lies outside of the table of powers.
+bool roundedTimesPowerOfTen(std::uint64_t digits, int power, double& value);
+
+// The same, in one operation where both numbers are doubles.
 inline bool timesPowerOfTen(std::uint64_t digits, int power, double& value) {
   const auto size = static_cast<std::size_t>(std::abs(power));
-  if (digits < 2 * kHiddenBit && size < kExactPowersOfTen.size()) {
-    // Both operands are exact, so the one operation rounds correctly.
-    const auto exact = static_cast<double>(static_cast<std::int64_t>(digits));
-    value = power < 0 ? exact / kExactPowersOfTen[size] : exact * kExactPowersOfTen[size];
-    return true;
+  if (digits >= 2 * kHiddenBit || size >= kExactPowersOfTen.size()) {
+    return roundedTimesPowerOfTen(digits, power, value);
   }
-  if (digits == 0 || !isInPowerTable(power)) {
-    return false;
-  }
-  const int zeros = std::countl_zero(digits);
-  const std::uint64_t aligned = digits << zeros;
-  // Two numbers with their highest bits set: the product's may stand one place lower.
-  const bool carried = ((Uint128{aligned} * powerOfTen(power).high) >> 127) != 0;
-  const int extraBits = 64 - kMantissaBits - (carried ? 0 : 1);
-  std::uint64_t mantissa = 0;
-  if (!roundedProduct(aligned, power, extraBits, mantissa)) {
-    return false;
-  }
-  const int exponent = binaryExponentOfPower(power) + 63 - zeros + (carried ? 1 : 0);
-  // Added, not put together: a mantissa that was rounded up to the next power of two carries.
-  value = std::bit_cast<double>(
-      (static_cast<std::uint64_t>(exponent + kExponentBias - 1) << kStoredBits) + mantissa);
+  const auto exact = static_cast<double>(static_cast<std::int64_t>(digits));
+  value = power < 0 ? exact / kExactPowersOfTen[size] : exact * kExactPowersOfTen[size];
   return true;
 }
 
@@ -74,7 +61,7 @@ inline bool timesPowerOfTen(std::uint64_t digits, int power, double& value) {
 template <int Digits>
 bool roundedDigits(double size, std::uint64_t& digits, int& exponent) {
   static_assert(Digits >= 1 && Digits <= std::numeric_limits<double>::max_digits10);
-  constexpr int kLargestExponent = 110;
+  constexpr int kLargestExponent = 109;
   static_assert(kLargestExponent + 2 + Digits <= kLargestPower);
   const int binaryExponent = biasedExponent(size) - kExponentBias;
   const int estimate = decimalExponentOfPower(binaryExponent);

@@ -90,11 +90,18 @@ constexpr DigitBlock nonDigits(DigitBlock block) {
          (((block + repeated('\x06')) & kHighHalves) ^ repeated('0'));
 }
 
-// The number that eight digits make.
+// The number that the N digits in a block's highest bytes make; below them stand zeros.
+template <int N>
 constexpr std::uint32_t numberOf(DigitBlock digits) {
   // Neighbours are put together: digits to pairs, pairs to fours, fours to eight.
   digits = (digits & repeated('\x0F')) * (10 * 0x100 + 1) >> 8;
+  if constexpr (N <= 2) {
+    return static_cast<std::uint8_t>(digits >> 48);
+  }
   digits = (digits & 0x00FF00FF00FF00FF) * (100 * 0x10000 + 1) >> 16;
+  if constexpr (N <= 4) {
+    return static_cast<std::uint16_t>(digits >> 32);
+  }
   digits = (digits & 0x0000FFFF0000FFFF) * (10000 * 0x100000000 + 1) >> 32;
   return static_cast<std::uint32_t>(digits);
 }
