@@ -1,63 +1,51 @@
 #include "VCM/VcmCardReading/CardReader.h"
 
-#include <algorithm>
-#include <cstring>
-
 namespace vcm {
-
-namespace {
-
-constexpr std::size_t kCardWidth = 1500;
-constexpr std::size_t kBlockSize = std::size_t{1} << 20;
-
-}  // namespace
 
 CardReader::CardReader(std::FILE* stream) : stream_(stream), block_(kBlockSize) { rewind(); }
 
 void CardReader::rewind() {
   std::rewind(stream_);
-  begin_ = end_ = 0;
+  begin_ = end_ = block_.data();
   atEnd_ = false;
   card_ = {};
   lineNumber_ = 0;
 }
 
-bool CardReader::next() {
-  std::size_t searched = begin_;
+// The block ends inside a card.
+bool CardReader::nextAfterRefill() {
   for (;;) {
-    const void* const lineEnd = std::memchr(block_.data() + searched, '\n', end_ - searched);
+    const std::size_t searched = keepUnfinished();
+    if (!refill()) {
+      return begin_ != end_ && take(end_, 0);
+    }
+    const char* const from = begin_ + searched;
+    const void* const lineEnd = std::memchr(from, '\n', static_cast<std::size_t>(end_ - from));
     if (lineEnd != nullptr) {
-      const auto end = static_cast<std::size_t>(static_cast<const char*>(lineEnd) - block_.data());
-      take(end, end + 1);
-      return true;
+      return take(static_cast<const char*>(lineEnd), 1);
     }
-    const std::size_t unfinished = end_ - begin_;
-    if (atEnd_ || !refill()) {
-      if (unfinished == 0) {
-        return false;
-      }
-      take(end_, end_);
-      return true;
-    }
-    searched = std::min(unfinished, kCardWidth);
   }
 }
 
-// Moves the unfinished card to the front, no more of it than a card holds, and reads on behind it.
-bool CardReader::refill() {
-  const std::size_t kept = std::min(end_ - begin_, kCardWidth);
-  std::memmove(block_.data(), block_.data() + begin_, kept);
-  begin_ = 0;
-  const std::size_t n = std::fread(block_.data() + kept, 1, block_.size() - kept, stream_);
-  end_ = kept + n;
-  atEnd_ = n == 0;
-  return n > 0;
+// Moves the unfinished card to the front, no more of it than a card holds. Returns how much that is.
+std::size_t CardReader::keepUnfinished() {
+  const std::size_t kept = std::min(static_cast<std::size_t>(end_ - begin_), kCardWidth);
+  std::memmove(block_.data(), begin_, kept);
+  begin_ = block_.data();
+  end_ = begin_ + kept;
+  return kept;
 }
 
-void CardReader::take(std::size_t end, std::size_t nextCard) {
-  card_ = {block_.data() + begin_, std::min(end - begin_, kCardWidth)};
-  begin_ = nextCard;
-  ++lineNumber_;
+// Reads on behind what the block holds.
+bool CardReader::refill() {
+  if (atEnd_) {
+    return false;
+  }
+  const auto kept = static_cast<std::size_t>(end_ - block_.data());
+  const std::size_t n = std::fread(block_.data() + kept, 1, block_.size() - kept, stream_);
+  end_ += n;
+  atEnd_ = n == 0;
+  return !atEnd_;
 }
 
 void SkipLines(CardReader& cards, int count) {

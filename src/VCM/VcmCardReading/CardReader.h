@@ -2,9 +2,11 @@
 #ifndef VCM_VCMCARDREADING_CARDREADER_H
 #define VCM_VCMCARDREADING_CARDREADER_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -22,7 +24,10 @@ class CardReader {
   CardReader& operator=(const CardReader&) = delete;
 
   // Goes to the next card; false at the end of the file.
-  bool next();
+  bool next() {
+    const void* const lineEnd = std::memchr(begin_, '\n', static_cast<std::size_t>(end_ - begin_));
+    return lineEnd != nullptr ? take(static_cast<const char*>(lineEnd), 1) : nextAfterRefill();
+  }
   // Valid until the next call of next() or rewind().
   std::string_view card() const { return card_; }
   // The card's line in the file, counted from 1.
@@ -32,13 +37,24 @@ class CardReader {
   void rewind();
 
  private:
+  static constexpr std::size_t kCardWidth = 1500;
+  static constexpr std::size_t kBlockSize = std::size_t{1} << 20;
+
+  // Takes the card that ends there and passes over what follows.
+  bool take(const char* end, int over) {
+    card_ = {begin_, std::min(static_cast<std::size_t>(end - begin_), kCardWidth)};
+    begin_ = end + over;
+    ++lineNumber_;
+    return true;
+  }
+  bool nextAfterRefill();
+  std::size_t keepUnfinished();
   bool refill();
-  void take(std::size_t end, std::size_t nextCard);
 
   std::FILE* stream_;
   std::vector<char> block_;
-  std::size_t begin_ = 0;  // of the next card
-  std::size_t end_ = 0;    // of what the block holds
+  const char* begin_ = nullptr;  // of the next card
+  const char* end_ = nullptr;    // of what the block holds
   bool atEnd_ = false;
   std::string_view card_;
   std::int64_t lineNumber_ = 0;

@@ -47,10 +47,4 @@ CardType fileCardType(std::string_view card) {
                                                                      : type;
 }
 
-bool isNoDirective(std::string_view card) {
-  constexpr std::string_view kFirstLetters = "VESQvesq";
-  card = withoutLeadingBlanks(card);
-  return card.empty() || kFirstLetters.find(card.front()) == std::string_view::npos;
-}
-
 }  // namespace vcm

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "VCM/VcmTypes/FixedText.h"
+
 namespace vcm {
 
 enum class CardType : std::int32_t {
@@ -25,7 +27,11 @@ CardType fileCardType(std::string_view card);
 
 // True when the card cannot be one that the first pass over a file looks for (a directive or the
 // key-mode card), told by its first letter alone.
-bool isNoDirective(std::string_view card);
+inline bool isNoDirective(std::string_view card) {
+  constexpr std::string_view kFirstLetters = "VESQvesq";
+  card = withoutLeadingBlanks(card);
+  return card.empty() || kFirstLetters.find(card.front()) == std::string_view::npos;
+}
 
 }  // namespace vcm
 

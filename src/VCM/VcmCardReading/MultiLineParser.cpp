@@ -15,10 +15,10 @@ namespace vcm {
 
 namespace {
 
-// Columns of a line that may lack its lead.
-class Columns {
+// Columns of a line that may lack its lead, and may end early.
+class AnyColumns {
  public:
-  Columns(std::string_view line, bool bareForm)
+  AnyColumns(std::string_view line, bool bareForm)
       : line_(line), missing_(bareForm ? static_cast<int>(kLead.size()) : 0) {}
   std::string_view at(Column first, int width) const {
     return columnsOf(line_, Column{first.number - missing_}, width);
@@ -29,8 +29,27 @@ class Columns {
   int missing_;
 };
 
+// Columns of a line with its lead that is known to be long enough: where they are is a constant.
+class WholeColumns {
+ public:
+  explicit WholeColumns(std::string_view line) : line_(line.data()) {}
+  std::string_view at(Column first, int width) const {
+    return {line_ + first.index(), static_cast<std::size_t>(width)};
+  }
+
+ private:
+  const char* line_;
+};
+
+// Calls visit(columns) with the columns of a line, of which those up to `length` will be looked at.
+template <std::size_t Length, class Visit>
+auto withColumns(std::string_view line, bool bareForm, Visit&& visit) {
+  return !bareForm && line.size() >= Length ? visit(WholeColumns(line))
+                                            : visit(AnyColumns(line, bareForm));
+}
+
 // A label's own blanks may be any kind of blank.
-template <std::size_t Line>
+template <std::size_t Line, class Columns>
 bool hasLabel(const Columns& line) {
   static constexpr const LineLayout& layout = kMultiLineLayout[Line];
   constexpr std::string_view label = layout.labelText();
@@ -51,7 +70,7 @@ void reject(VcmRecord& record, const LineLayout& layout, ReportedBy reportedBy) 
 }
 
 // Reads the fields of a line up to the first that cannot be read; its name, empty when there is none.
-template <std::size_t Line>
+template <std::size_t Line, class Columns>
 std::string_view readFields(const Columns& line, VcmRecord& record) {
   static constexpr std::span<const Field> fields = kMultiLineLayout[Line].fields;
   std::string_view unreadable;
@@ -86,36 +105,48 @@ bool readLine(Source& source, VcmRecord& record) {
   } else {
     std::string_view text;
     const bool present = source.next(text);
-    const Columns line(text, source.isBareForm());
-    if (!present || !hasLabel<Line>(line)) {
-      reject(record, layout, source.reportedBy(layout));
-      return false;
-    }
-    if (const std::string_view name = readFields<Line>(line, record); !name.empty()) {
-      source.unreadable(name);
-    }
-    return true;
+    return withColumns<endOf(layout)>(text, source.isBareForm(), [&](const auto& line) {
+      if (!present || !hasLabel<Line>(line)) {
+        reject(record, layout, source.reportedBy(layout));
+        return false;
+      }
+      if (const std::string_view name = readFields<Line>(line, record); !name.empty()) {
+        source.unreadable(name);
+      }
+      return true;
+    });
   }
+}
+
+// Reads the values of a row; false at the first that cannot be read.
+template <class Columns>
+bool readCovarianceRow(const Columns& row, std::span<double> values) {
+  int inRow = 0;
+  return std::all_of(values.begin(), values.end(), [&](double& value) {
+    return CovarianceFormat::read(row.at(covarianceColumn(inRow++), CovarianceFormat::width), value);
+  });
 }
 
 // Reads the rows that the covariance size announces; false when one is missing or cannot be read.
 template <class Source>
 bool readCovariance(Source& source, VcmRecord& record) {
   CovarianceTriangle values{};
-  const int count = covarianceValueCount(record.covMtxSize);
-  for (int first = 0; first < count; first += kValuesPerRow) {
+  const auto count = static_cast<std::size_t>(covarianceValueCount(record.covMtxSize));
+  for (auto rest = std::span(values).first(count); !rest.empty();) {
+    const auto row = rest.first(std::min<std::size_t>(rest.size(), kValuesPerRow));
     std::string_view text;
     if (!source.next(text)) {
       return false;
     }
-    const Columns row(text, source.isBareForm());
-    for (int i = first; i < std::min(first + kValuesPerRow, count); ++i) {
-      if (!CovarianceFormat::read(row.at(covarianceColumn(i - first), CovarianceFormat::width),
-                                  values[static_cast<std::size_t>(i)])) {
-        source.unreadable("covMtx");
-        return false;
-      }
+    constexpr auto kEnd = covarianceColumn(kValuesPerRow).index();
+    const bool readable = withColumns<kEnd - 1>(
+        text, source.isBareForm(),
+        [row](const auto& columns) { return readCovarianceRow(columns, row); });
+    if (!readable) {
+      source.unreadable("covMtx");
+      return false;
     }
+    rest = rest.subspan(row.size());
   }
   record.covMtx = Vcm1dTo2d(values);
   return true;

@@ -2,6 +2,7 @@
 #ifndef VCM_VCMFORMATS_MULTILINELAYOUT_H
 #define VCM_VCMFORMATS_MULTILINELAYOUT_H
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -38,6 +39,15 @@ struct LineLayout {
     return text.substr(label.first.index(), static_cast<std::size_t>(label.width));
   }
 };
+
+// How many characters a line's text and fields take.
+constexpr std::size_t endOf(const LineLayout& layout) {
+  std::size_t end = layout.text.size();
+  for (const Field& field : layout.fields) {
+    end = std::max(end, field.first.index() + static_cast<std::size_t>(field.width));
+  }
+  return end;
+}
 
 inline constexpr int kMessageLines = 27;  // the covariance rows come after these
 inline constexpr int kMessageLineWidth = 80;

@@ -23,14 +23,6 @@ constexpr LineImage imageOf(std::string_view text) {
   return image;
 }
 
-constexpr std::size_t endOf(const LineLayout& layout) {
-  std::size_t end = layout.text.size();
-  for (const Field& field : layout.fields) {
-    end = std::max(end, field.first.index() + static_cast<std::size_t>(field.width));
-  }
-  return end;
-}
-
 // Fills a line and returns where its text ends.
 template <std::size_t Line>
 char* writeLine(const VcmRecord& record, char* line) {
