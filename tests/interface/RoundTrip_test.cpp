@@ -6,6 +6,7 @@
 #include <random>
 
 #include "support/InterfaceStore.h"
+#include "support/RandomCount.h"
 
 namespace {
 
@@ -150,9 +151,7 @@ int unexplained(const Arrays& before, const Arrays& after, double leapSecondTime
 }
 
 TEST(RoundTrip, ArraysToBothTextFormsAndBack) {
-  const char* const number =
-      std::getenv("VCM_RANDOM_MESSAGES");  // NOLINT(concurrency-mt-unsafe): no other thread yet
-  const int count = number == nullptr ? 20000 : std::atoi(number);
+  const int count = randomCount("VCM_RANDOM_MESSAGES", 20'000);
   constexpr std::uint64_t kSeed = 1950;
   const double unknownLeapSecond = 36525.0 + 86399.999 / 86400;  // 2049, day 365
   RandomArrays random(kSeed);

@@ -4,14 +4,11 @@ namespace vcm {
 
 namespace {
 
-// A search for either of two characters, several times as fast as that of the standard library.
+// The first of either mark; what lies behind a "<" need not be searched for the other.
 std::size_t findMark(std::string_view text, std::size_t from) {
-  for (std::size_t i = from; i < text.size(); ++i) {
-    if (text[i] == '<' || text[i] == '>') {
-      return i;
-    }
-  }
-  return std::string_view::npos;
+  const std::size_t open = text.find('<', from);
+  const std::size_t close = text.substr(0, open).find('>', from);
+  return close != std::string_view::npos ? close : open;
 }
 
 }  // namespace

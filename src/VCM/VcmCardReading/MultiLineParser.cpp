@@ -63,8 +63,7 @@ bool hasLabel(const Columns& line) {
 
 void reject(VcmRecord& record, const LineLayout& layout, ReportedBy reportedBy) {
   record.parseStatus = kRejected;
-  std::string message(reportedBy == ReportedBy::fileReader ? "ReadVCMFrFileUnit"
-                                                           : "MultiLine2Vcm");
+  std::string message(reportedBy == ReportedBy::fileReader ? "ReadVCMFrFileUnit" : "MultiLine2Vcm");
   message.append(": Invalid line caused read error @ '").append(layout.name).append("'.");
   logError(message);
 }
@@ -123,7 +122,8 @@ template <class Columns>
 bool readCovarianceRow(const Columns& row, std::span<double> values) {
   int inRow = 0;
   return std::all_of(values.begin(), values.end(), [&](double& value) {
-    return CovarianceFormat::read(row.at(covarianceColumn(inRow++), CovarianceFormat::width), value);
+    return CovarianceFormat::read(row.at(covarianceColumn(inRow++), CovarianceFormat::width),
+                                  value);
   });
 }
 
@@ -206,9 +206,7 @@ class FileLines {
     }
   }
   bool isBareForm() const { return bare_; }
-  ReportedBy reportedBy(const LineLayout& /*layout*/) const {
-    return ReportedBy::fileReader;
-  }
+  ReportedBy reportedBy(const LineLayout& /*layout*/) const { return ReportedBy::fileReader; }
   void unreadable(std::string_view field) {
     if (observer_ != nullptr) {
       observer_->unreadable(cards_.lineNumber(), field);

@@ -46,20 +46,24 @@ inline std::uint64_t unsignedDigits(const char* at, DigitBlock& invalid) {
   }
 }
 
+// A whole number. False when the field looks otherwise.
 template <int Width>
-bool readInteger(std::string_view field, std::int32_t& value) {
-  if constexpr (Width <= kBlockDigits) {
-    if (field.size() == Width) {
-      const SignedDigits number = signedDigits<Width>(field.data());
-      // A sign needs digits; blanks alone are zero.
-      if (number.invalid == 0 && (number.digits > 0 || !number.negative)) {
-        const auto size = static_cast<std::int32_t>(number.size);
-        value = number.negative ? -size : size;
-        return true;
-      }
+bool takeInteger(std::string_view field, std::int32_t& value) {
+  if constexpr (Width > kBlockDigits) {
+    return false;
+  } else {
+    if (field.size() != Width) {
+      return false;
     }
+    const SignedDigits number = signedDigits<Width>(field.data());
+    // A sign needs digits; blanks alone are zero.
+    if (number.invalid != 0 || (number.negative && number.digits == 0)) {
+      return false;
+    }
+    const auto size = static_cast<std::int32_t>(number.size);
+    value = number.negative ? -size : size;
+    return true;
   }
-  return readInteger(field, value);
 }
 
 // A whole number, a point and `Decimals` digits. False when the field looks otherwise.
@@ -123,6 +127,11 @@ bool takeScientific(std::string_view field, double& value) {
   }
   value = negative ? -size : size;
   return true;
+}
+
+template <int Width>
+bool readInteger(std::string_view field, std::int32_t& value) {
+  return takeInteger<Width>(field, value) || readInteger(field, value);
 }
 
 template <int Width, int Decimals>

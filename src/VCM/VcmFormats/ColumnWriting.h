@@ -38,7 +38,18 @@ bool placeWhole(char* out, bool negative, std::uint32_t size) {
   return true;
 }
 
-// Exactly N digits, up to sixteen, of a number that has no more.
+// A zero, right-aligned, and its sign; false when there is no room for that.
+template <int Width>
+bool placeZero(char* out, bool negative) {
+  if constexpr (Width > 1) {
+    std::memset(out, ' ', Width - 1);
+    out[Width - 2] = negative ? '-' : ' ';
+  }
+  out[Width - 1] = '0';
+  return Width > 1 || !negative;
+}
+
+// Exactly N digits, of a number that has no more.
 template <int N>
 void placeDigits(char* out, std::uint64_t number) {
   if constexpr (N > kBlockDigits) {
@@ -99,7 +110,7 @@ void writeScientific(char* out, double value) {
   int exponent = 0;
   const bool rounded = value == 0.0 || roundedDigits<Digits>(std::fabs(value), digits, exponent);
   if (!rounded || std::abs(exponent) > kLargestExponent ||
-      !placeWhole<kWholeWidth>(out, std::signbit(value), 0)) {
+      !placeZero<kWholeWidth>(out, std::signbit(value))) {
     writeScientific(out, Width, Digits, value);
     return;
   }

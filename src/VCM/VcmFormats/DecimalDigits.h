@@ -34,9 +34,9 @@ constexpr std::uint64_t mantissaOf(double size) {
 
 // ---- decimal to double --------------------------------------------------------------------------
 
-inline constexpr std::array kExactPowersOfTen = {
-    1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+inline constexpr std::array kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 // digits * 10^power through a product of 128 bits, to the nearest double. False when the rounding is not
 // certain, and for what lies outside of the table of powers.

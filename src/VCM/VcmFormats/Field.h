@@ -96,7 +96,14 @@ template <int Width>
 struct WholeReal {
   static constexpr int width = Width;
   static void write(double value, char* out) { writeInteger<Width>(out, truncated(value)); }
-  static bool read(std::string_view text, double& value) { return readReal(text, 0, value); }
+  static bool read(std::string_view text, double& value) {
+    std::int32_t whole = 0;
+    if (takeInteger<Width>(text, whole) && whole > 0) {  // zeros have a sign
+      value = whole;
+      return true;
+    }
+    return readReal(text, 0, value);
+  }
 };
 
 // The UT1 rate: seconds per day in the record, milliseconds per day in every text and array.
@@ -206,15 +213,15 @@ template <std::size_t Count, class Visit>
 constexpr bool everyIndex(Visit&& visit) {
   return [&]<std::size_t... I>(std::index_sequence<I...>) {
     return (visit.template operator()<I>() && ...);
-  }(std::make_index_sequence<Count>());
+  }
+  (std::make_index_sequence<Count>());
 }
 
 // The same without an early end.
 template <std::size_t Count, class Visit>
 constexpr void eachIndex(Visit&& visit) {
-  [&]<std::size_t... I>(std::index_sequence<I...>) {
-    (visit.template operator()<I>(), ...);
-  }(std::make_index_sequence<Count>());
+  [&]<std::size_t... I>(std::index_sequence<I...>) { (visit.template operator()<I>(), ...); }
+  (std::make_index_sequence<Count>());
 }
 
 }  // namespace vcm

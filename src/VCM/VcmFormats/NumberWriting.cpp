@@ -10,6 +10,8 @@
 #include <limits>
 #include <string_view>
 
+#include "VCM/VcmFormats/ColumnWriting.h"
+
 namespace vcm {
 
 namespace {
@@ -60,8 +62,13 @@ class StandardForm {
     std::from_chars(sign + 1, end, exponent_);
     exponent_ = *sign == '-' ? -exponent_ : exponent_;
   }
-  std::string_view mantissa() const { return {text_.data(), letter_}; }
   int exponent() const { return exponent_; }
+
+  // Copies the digits, without the point behind the first, and returns where they end.
+  char* copyDigits(char* out) const {
+    return std::remove_copy(text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(letter_),
+                            out, '.');
+  }
 
  private:
   std::array<char, 64> text_;
@@ -125,11 +132,7 @@ void writeScientific(char* out, int width, int digits, double value) {
   char* at = text.data();
   *at++ = '0';
   *at++ = '.';
-  for (const char c : standard.mantissa()) {
-    if (c != '.') {
-      *at++ = c;
-    }
-  }
+  at = standard.copyDigits(at);
   at = putExponent(at, exponent, 2);
   place(out, width, signOf(value), {text.data(), static_cast<std::size_t>(at - text.data())});
 }
@@ -138,20 +141,29 @@ void writeGeneral(char* out, double value) {
   if (placeNonFinite(out, kGeneralWidth, value)) {
     return;
   }
-  constexpr int kDigits = 17;
+  constexpr int kDigits = std::numeric_limits<double>::max_digits10;
   const double size = std::fabs(value);
-  const StandardForm standard(size, kDigits);
-  const int exponent = standard.exponent();
-  std::array<char, 64> text;
-  char* at = text.data();
-  if (exponent >= -1 && exponent < kDigits) {
-    const int decimals = kDigits - 1 - exponent;
-    at = std::to_chars(at, text.data() + text.size(), size, std::chars_format::fixed, decimals).ptr;
-    if (decimals == 0) {
-      *at++ = '.';
-    }
+  std::array<char, kDigits> digits;
+  int exponent = 0;  // of the form d.ddd
+  if (std::uint64_t number = 0; roundedDigits<kDigits>(size, number, exponent)) {
+    placeDigits<kDigits>(digits.data(), number);
+    --exponent;
   } else {
-    at = std::copy(standard.mantissa().begin(), standard.mantissa().end(), at);
+    const StandardForm standard(size, kDigits);
+    standard.copyDigits(digits.data());
+    exponent = standard.exponent();
+  }
+  const bool plain = exponent >= -1 && exponent < kDigits;
+  const int whole = plain ? exponent + 1 : 1;
+  std::array<char, kGeneralWidth + 1> text;
+  char* at = text.data();
+  if (whole == 0) {
+    *at++ = '0';
+  }
+  at = std::copy_n(digits.begin(), whole, at);
+  *at++ = '.';
+  at = std::copy(digits.begin() + whole, digits.end(), at);
+  if (!plain) {
     at = putExponent(at, exponent, 3);
   }
   place(out, kGeneralWidth, signOf(value),

@@ -27,7 +27,6 @@ using D = InputDate;
 using Position = Fixed<16, 8, 8>;
 using Velocity = Fixed<16, 12, 12>;
 
-
 // A vector's three rows are spelled out so that the table stays one flat list.
 inline constexpr std::array kFields = {
     field<&R::satNum, Integer<5>>("satNum", Column{1}),

@@ -50,8 +50,7 @@ constexpr int decimalExponentOfPower(int exponent) { return (exponent * 315653) 
 // at hand do not tell which way to round.
 inline bool roundedProduct(std::uint64_t number, int power, int shift, std::uint64_t& rounded) {
   const PowerOfTen& factor = powerOfTen(power);
-  const Uint128 product =
-      Uint128{number} * factor.high + (Uint128{number} * factor.low >> 64);
+  const Uint128 product = Uint128{number} * factor.high + (Uint128{number} * factor.low >> 64);
   const auto high = static_cast<std::uint64_t>(product >> 64);
   const auto low = static_cast<std::uint64_t>(product);
   const std::uint64_t half = std::uint64_t{1} << (shift - 1);

@@ -3,9 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
-
-#include "VCM/VcmFormats/NumberReading.h"
 
 namespace {
 
@@ -71,24 +68,6 @@ TEST(NumberWriting, Integers) {
   }
   for (const auto& [value, expected] : truncations) {
     EXPECT_EQ(vcm::truncated(value), expected) << value;
-  }
-}
-
-// What is written reads back to the nearest double that the field's digits can say.
-TEST(NumberWriting, ReadsBackWithinHalfADigit) {
-  std::mt19937_64 random(4);
-  std::uniform_real_distribution<double> position(-99999.0, 99999.0);
-  for (int i = 0; i < 100'000; ++i) {
-    const double value = position(random);
-    const std::string fixed = written(vcm::writeFixed, 16, 8, value);
-    double back = 0.0;
-    ASSERT_TRUE(vcm::readReal(fixed, 8, back)) << fixed;
-    ASSERT_NEAR(back, value, 0.502e-8) << fixed;
-    ASSERT_EQ(written(vcm::writeFixed, 16, 8, back), fixed);
-    const std::string scientific = written(vcm::writeScientific, 13, 6, value);
-    ASSERT_TRUE(vcm::readReal(scientific, 10, back)) << scientific;
-    ASSERT_NEAR(back / value, 1.0, 5.1e-6) << scientific;
-    ASSERT_EQ(written(vcm::writeScientific, 13, 6, back), scientific);
   }
 }
 

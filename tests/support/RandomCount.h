@@ -1,0 +1,12 @@
+// How many random cases a test goes through: an environment variable makes it another number.
+#ifndef SUPPORT_RANDOMCOUNT_H
+#define SUPPORT_RANDOMCOUNT_H
+
+#include <cstdlib>
+
+inline int randomCount(const char* variable, int usual) {
+  const char* const wanted = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe): never set
+  return wanted == nullptr ? usual : std::atoi(wanted);
+}
+
+#endif
