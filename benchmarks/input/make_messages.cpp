@@ -66,9 +66,10 @@ void makeOneLines(const std::vector<std::string>& sample, int messages, std::ost
     std::string text = sample[static_cast<std::size_t>(i) % sample.size()];
     vcm::VcmRecord record;
     record.satNum = i % kNumbers + 1;
-    record.epoch.seconds = i / kNumbers * 0.001;
+    const int timesStartedOver = i / kNumbers;
+    record.epoch.seconds = timesStartedOver * 0.001;
     write(number, record, text);
-    if (i >= kNumbers) {
+    if (timesStartedOver > 0) {
       write(seconds, record, text);
     }
     output << text << '\n';

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <functional>
+#include <cmath>
 
 #include "vcm/Vcm.h"
 
@@ -39,7 +39,7 @@ std::int64_t sortable(const vcm::InputDate& date) {
   constexpr std::int64_t kDays = 366;
   const std::int64_t minutes =
       ((date.year * kDays + date.dayOfYear) * 24 + date.hour) * 60 + date.minute;
-  return minutes * 60'000 + static_cast<std::int64_t>(date.seconds * 1000.0 + 0.5);
+  return minutes * 60'000 + std::llround(date.seconds * 1000.0);
 }
 
 }  // namespace
@@ -75,7 +75,7 @@ void MappedRecords::list(std::int32_t order, Keys& keys) {
   if (order == VCM_ORDER_SATELLITE) {
     std::sort(places_.begin(), places_.end());
   } else {
-    std::sort(places_.begin(), places_.end(), std::greater<>());
+    std::sort(places_.begin(), places_.end(), [](const Place& a, const Place& b) { return b < a; });
   }
   std::transform(places_.begin(), places_.end(), keys.begin(), keyOf);
 }

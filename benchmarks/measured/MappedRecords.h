@@ -31,12 +31,17 @@ class MappedRecords {
     std::int64_t satNum;
     std::int64_t epoch;  // in milliseconds, years of equal length: all that an order needs
     std::int64_t key;
-    friend auto operator<=>(const Place&, const Place&) = default;
+    friend bool operator<(const Place& a, const Place& b) {
+      if (a.satNum != b.satNum) {
+        return a.satNum < b.satNum;
+      }
+      return a.epoch != b.epoch ? a.epoch < b.epoch : a.key < b.key;
+    }
   };
   struct Turn {
     std::int32_t sequence;
     std::int64_t key;
-    friend auto operator<=>(const Turn&, const Turn&) = default;
+    friend bool operator<(const Turn& a, const Turn& b) { return a.sequence < b.sequence; }
   };
 
   std::vector<std::unique_ptr<const vcm::VcmRecord>> records_;
