@@ -22,7 +22,10 @@ class Contest:
 
 def contests(sizes, rounds):
     def files(form, name, *more):
-        return lambda: (form, inputs.messages(form, sizes.messages), inputs.scratch(f"{name}-{form}.out"), *more)
+        def arguments():
+            output = inputs.scratch(f"{name}-{form}.out")
+            return (form, inputs.messages(form, sizes.messages), output, *more)
+        return arguments
 
     def lookups(count):
         return lambda: (inputs.messages("lines", count), rounds)
@@ -60,7 +63,8 @@ def contests(sizes, rounds):
 
 def same_texts(paths):
     with open(paths[0], encoding="ascii") as one, open(paths[1], encoding="ascii") as other:
-        for number, (line, twin) in enumerate(itertools.zip_longest(one, other, fillvalue="no line"), 1):
+        pairs = itertools.zip_longest(one, other, fillvalue="no line")
+        for number, (line, twin) in enumerate(pairs, 1):
             if line.rstrip() != twin.rstrip():
                 raise Failure(f"{paths[0].name} and {paths[1].name} differ in line {number}")
 

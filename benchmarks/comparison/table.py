@@ -1,7 +1,6 @@
 """The rows of the table: what is divided by what, and what is wanted of it."""
 
 import dataclasses
-import re
 import statistics
 from collections.abc import Callable
 
@@ -19,12 +18,12 @@ class Row:
 
 def faster(work, against, ours, peer, wanted):
     """How many times as fast ours is."""
-    return Row(work, against, (ours, peer), lambda our_time, peer_time: peer_time / our_time, wanted)
+    return Row(work, against, (ours, peer), lambda time, peer_time: peer_time / time, wanted)
 
 
 def rows(sizes, pattern):
-    n, many, some, few = (f"{count:,}" for count in (sizes.messages, sizes.many, sizes.some, sizes.few))
-    converted = f"{sizes.converted:,}"
+    n, converted = f"{sizes.messages:,}", f"{sizes.converted:,}"
+    many, some, few = f"{sizes.many:,}", f"{sizes.some:,}", f"{sizes.few:,}"
 
     def of_stored(entry, count, name, wanted):
         return faster(f"`VcmGetField` {name}, {count} records", "map find and snprintf",
@@ -41,7 +40,8 @@ def rows(sizes, pattern):
     every = [
         faster(f"load {n} multi-line", "formatted reads", "lines/load", "formatted-lines/read", 30),
         faster(f"load {n} multi-line", "bare from_chars", "lines/load", "bare-lines/read", 2.5),
-        faster(f"load {n} one-line", "formatted reads", "one-line/load", "formatted-one-line/read", 30),
+        faster(f"load {n} one-line", "formatted reads", "one-line/load", "formatted-one-line/read",
+               30),
         faster(f"save {n}", "formatted writes", "lines/save", "formatted-lines/write", 40),
         faster(f"save {n}", "bare to_chars", "lines/save", "bare-lines/write", 3),
         faster(f"one-line to multi-line and back, {converted}", "internal reads and writes",
@@ -60,9 +60,10 @@ def rows(sizes, pattern):
             lambda long, short: (long / sizes.many) / (short / sizes.few), 1.5, at_most=True),
         Row(f"peak memory per message, {many}", "the record's size",
             ("load-many/peak-bytes", "load-fewest/peak-bytes", "load-many/record-bytes"),
-            lambda peak, base, size: (peak - base) / (sizes.many - sizes.fewest) / size, 1.15, at_most=True),
+            lambda peak, base, size: (peak - base) / (sizes.many - sizes.fewest) / size,
+            1.15, at_most=True),
     ]
-    return [row for row in every if re.search(pattern, f"{row.work} {row.against}")]
+    return [row for row in every if pattern.search(f"{row.work} {row.against}")]
 
 
 def show(chosen, measured):
@@ -71,7 +72,8 @@ def show(chosen, measured):
     for row in chosen:
         wanted = f"{'at most ' if row.at_most else ''}{row.wanted:g}"
         if all(name in measured for name in row.measurements):
-            ratios = [row.ratio(*values) for values in zip(*(measured[name] for name in row.measurements))]
+            rounds = zip(*(measured[name] for name in row.measurements))
+            ratios = [row.ratio(*values) for values in rounds]
             numbers = (f"{statistics.median(ratios):.2f}", f"{min(ratios):.2f}-{max(ratios):.2f}")
         else:
             numbers = ("gfortran is not installed", "")
@@ -79,3 +81,10 @@ def show(chosen, measured):
     widths = [max(map(len, column)) for column in zip(*lines)]
     for line in lines:
         print("| " + " | ".join(cell.ljust(width) for cell, width in zip(line, widths)) + " |")
+
+
+def show_times(measured):
+    """What was measured, for whoever wonders about a ratio."""
+    print()
+    for name, values in sorted(measured.values.items()):
+        print(f"{name:30} {statistics.median(values):.4g}")

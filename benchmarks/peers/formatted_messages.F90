@@ -14,7 +14,8 @@ module formatted_messages
     character(25) :: commonName = ''
     type(date_t) :: epoch
     integer :: epochRev = 0
-    real(real64), dimension(3) :: j2kPos = 0, j2kVel = 0, eciPos = 0, eciVel = 0, efgPos = 0, efgVel = 0
+    real(real64), dimension(3) :: j2kPos = 0, j2kVel = 0, eciPos = 0, eciVel = 0
+    real(real64), dimension(3) :: efgPos = 0, efgVel = 0
     character(6) :: geoName = ''
     integer :: geoZonals = 0, geoTesserals = 0
     character(12) :: dragModel = ''
@@ -99,7 +100,9 @@ contains
       ['JAN', 'FEB', 'MAR', 'APR', 'MAY', 'JUN', 'JUL', 'AUG', 'SEP', 'OCT', 'NOV', 'DEC']
     integer :: days(12), i
     days = [31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
-    if (mod(date%year, 4) == 0 .and. (mod(date%year, 100) /= 0 .or. mod(date%year, 400) == 0)) days(2) = 29
+    if (mod(date%year, 4) == 0 .and. (mod(date%year, 100) /= 0 .or. mod(date%year, 400) == 0)) then
+      days(2) = 29
+    end if
     day = date%day
     do i = 1, 11
       if (day <= days(i)) exit
