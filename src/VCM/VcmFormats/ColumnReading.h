@@ -23,9 +23,9 @@ struct SignedDigits {
 };
 
 template <int Width>
-inline SignedDigits signedDigits(const char* at) {
+[[gnu::always_inline]] inline SignedDigits signedDigits(const char* at) {
   constexpr DigitBlock kBlanks = repeated(' ');
-  DigitBlock block = loadLast<Width>(at) | (kBlanks & lowBits((kBlockDigits - Width) * 8));
+  DigitBlock block = loadLast<Width>(at) | (kBlanks & firstOf(kBlockDigits - Width));
   int before = countLeading(block, kBlanks);
   const bool negative = before < kBlockDigits && static_cast<char>(block >> (before * 8)) == '-';
   before += negative ? 1 : 0;
@@ -40,7 +40,7 @@ inline std::uint64_t unsignedDigits(const char* at, DigitBlock& invalid) {
     const std::uint64_t high = unsignedDigits<N - kBlockDigits>(at, invalid);
     return high * kBlockLimit + unsignedDigits<kBlockDigits>(at + (N - kBlockDigits), invalid);
   } else {
-    const DigitBlock block = loadLast<N>(at) | (repeated('0') & lowBits((kBlockDigits - N) * 8));
+    const DigitBlock block = loadLast<N>(at) | (repeated('0') & firstOf(kBlockDigits - N));
     invalid |= nonDigits(block);
     return numberOf<N>(block);
   }
@@ -89,40 +89,55 @@ bool takeFixed(std::string_view field, double& value) {
   return true;
 }
 
-// A zero, a minus or a blank before it, and nothing but blanks before that.
-template <int Width>
-inline bool takeLeadingZero(const char* at, bool& negative) {
-  bool blank = at[Width - 1] == '0';
-  if constexpr (Width > 1) {
-    negative = at[Width - 2] == '-';
-    blank = blank && (negative || at[Width - 2] == ' ');
-  }
-  for (int i = 0; i < Width - 2; ++i) {
-    blank = blank && at[i] == ' ';
-  }
-  return blank;
+// Two characters, the first in the lower byte.
+constexpr DigitBlock twoCharacters(const char (&text)[3]) {
+  return static_cast<unsigned char>(text[0]) | DigitBlock{static_cast<unsigned char>(text[1])} << 8;
 }
 
-// A leading zero, a point, `Digits` digits, E, a sign and two digits of exponent. False when the field
+// What stands before a point: a zero, a minus or a blank before that, then nothing but blanks.
+template <int Width>
+inline bool takeLeadingZero(const char* at, bool& negative) {
+  if constexpr (Width == 1) {
+    return *at == '0';
+  } else {
+    const DigitBlock last = loadWord<std::uint16_t>(at + Width - 2);
+    negative = last == twoCharacters("-0");
+    bool found = negative || last == twoCharacters(" 0");
+    for (int i = 0; i < Width - 2; ++i) {
+      found = found && at[i] == ' ';
+    }
+    return found;
+  }
+}
+
+// A leading zero, a point, up to six digits, E, a sign and two digits of exponent. False when the field
 // looks otherwise.
 template <int Width, int Digits>
-bool takeScientific(std::string_view field, double& value) {
+inline bool takeScientific(std::string_view field, double& value) {
+  constexpr int kExponentDigits = 2;
   constexpr int kPoint = Width - Digits - 5;
-  constexpr std::size_t kLetter = Width - 4;
-  static_assert(Digits <= kExactDigits);
+  constexpr int kLetter = Width - kExponentDigits - 2;
+  constexpr int kUnused = kBlockDigits - Digits - kExponentDigits;
+  static_assert(kUnused >= 0);
   bool negative = false;
-  if (field.size() != Width || field[kPoint] != '.' || field[kLetter] != 'E' ||
+  if (field.size() != Width || field[kPoint] != '.' ||
       !takeLeadingZero<kPoint>(field.data(), negative)) {
     return false;
   }
-  const char* const exponentAt = field.data() + kLetter + 1;
-  const bool negativeExponent = *exponentAt == '-';
-  DigitBlock invalid = negativeExponent || *exponentAt == '+' ? 0 : 1;
-  const std::uint64_t digits = unsignedDigits<Digits>(field.data() + kPoint + 1, invalid);
-  const auto exponent = static_cast<int>(unsignedDigits<2>(exponentAt + 1, invalid));
+  const DigitBlock letterAndSign = loadWord<std::uint16_t>(field.data() + kLetter);
+  const bool negativeExponent = letterAndSign == twoCharacters("E-");
+  // The digits of the exponent make the block's first pair, those of the number its last ones.
+  const DigitBlock digits = loadLast<Digits>(field.data() + kPoint + 1) |
+                            (repeated('0') & firstOf(kUnused)) << (kExponentDigits * 8) |
+                            loadWord<std::uint16_t>(field.data() + kLetter + 2);
+  if (nonDigits(digits) != 0 || (!negativeExponent && letterAndSign != twoCharacters("E+"))) {
+    return false;
+  }
+  const DigitBlock pairs = pairsOf(digits);
+  const auto exponent = static_cast<int>(pairs & firstOf(1));
   double size = 0.0;
-  if (invalid != 0 ||
-      !timesPowerOfTen(digits, (negativeExponent ? -exponent : exponent) - Digits, size)) {
+  if (!timesPowerOfTen(numberOfPairs(pairs & ~firstOf(kExponentDigits)),
+                       (negativeExponent ? -exponent : exponent) - Digits, size)) {
     return false;
   }
   value = negative ? -size : size;

@@ -43,7 +43,7 @@ inline constexpr std::array kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1
 bool roundedTimesPowerOfTen(std::uint64_t digits, int power, double& value);
 
 // The same, in one operation where both numbers are doubles.
-inline bool timesPowerOfTen(std::uint64_t digits, int power, double& value) {
+[[gnu::always_inline]] inline bool timesPowerOfTen(std::uint64_t digits, int power, double& value) {
   const auto size = static_cast<std::size_t>(std::abs(power));
   if (digits >= 2 * kHiddenBit || size >= kExactPowersOfTen.size()) {
     return roundedTimesPowerOfTen(digits, power, value);

@@ -23,14 +23,15 @@ constexpr DigitBlock repeated(char c) {
   return 0x0101010101010101 * static_cast<DigitBlock>(static_cast<unsigned char>(c));
 }
 
-// The lowest `bits` bits, 0 to 64 of them.
-constexpr DigitBlock lowBits(int bits) {
-  return bits >= 64 ? ~DigitBlock{0} : (DigitBlock{1} << bits) - 1;
+// The bits of a block's first `count` characters, 0 to 8 of them: shifted in two steps, since a word may
+// not be shifted by all of its width.
+constexpr DigitBlock firstOf(int count) {
+  return ((DigitBlock{1} << (count * 4)) << (count * 4)) - 1;
 }
 
 // A block whose first `count` characters come from `low`, the others from `high`.
 constexpr DigitBlock merged(DigitBlock low, DigitBlock high, int count) {
-  const DigitBlock mask = lowBits(count * 8);
+  const DigitBlock mask = firstOf(count);
   return (low & mask) | (high & ~mask);
 }
 
@@ -90,20 +91,27 @@ constexpr DigitBlock nonDigits(DigitBlock block) {
          (((block + repeated('\x06')) & kHighHalves) ^ repeated('0'));
 }
 
-// The number that the N digits in a block's highest bytes make; below them stand zeros.
+// Neighbouring digits put together: four numbers below 100 in the block's four quarters, the first in
+// the lowest.
+constexpr DigitBlock pairsOf(DigitBlock digits) {
+  return (digits & repeated('\x0F')) * (10 * 0x100 + 1) >> 8 & 0x00FF00FF00FF00FF;
+}
+
+// The number that four pairs make.
+constexpr std::uint32_t numberOfPairs(DigitBlock pairs) {
+  const DigitBlock fours = pairs * (100 * 0x10000 + 1) >> 16 & 0x0000FFFF0000FFFF;
+  return static_cast<std::uint32_t>(fours * (10000 * 0x100000000 + 1) >> 32);
+}
+
+// The number that the N digits in a block's highest bytes make; zeros stand below them.
 template <int N>
 constexpr std::uint32_t numberOf(DigitBlock digits) {
-  // Neighbours are put together: digits to pairs, pairs to fours, fours to eight.
-  digits = (digits & repeated('\x0F')) * (10 * 0x100 + 1) >> 8;
+  const DigitBlock pairs = pairsOf(digits);
   if constexpr (N <= 2) {
-    return static_cast<std::uint8_t>(digits >> 48);
+    return static_cast<std::uint32_t>(pairs >> 48);
+  } else {
+    return numberOfPairs(pairs);
   }
-  digits = (digits & 0x00FF00FF00FF00FF) * (100 * 0x10000 + 1) >> 16;
-  if constexpr (N <= 4) {
-    return static_cast<std::uint16_t>(digits >> 32);
-  }
-  digits = (digits & 0x0000FFFF0000FFFF) * (10000 * 0x100000000 + 1) >> 32;
-  return static_cast<std::uint32_t>(digits);
 }
 
 // The eight digits of a number below kBlockLimit, with leading zeros.

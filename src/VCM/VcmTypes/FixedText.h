@@ -59,13 +59,23 @@ class FixedText {
   constexpr FixedText() { chars_.fill(' '); }
   constexpr FixedText(std::string_view text) { assign(text); }  // NOLINT: a text is a text
 
-  constexpr void assign(std::string_view text) { copyPadded(text, chars_.data(), N); }
+  constexpr void assign(std::string_view text) {
+    if (text.size() == N) {  // known to the compiler more often than not
+      for (std::size_t i = 0; i < N; ++i) {
+        chars_[i] = kRealBlanks[static_cast<unsigned char>(text[i])];
+      }
+    } else {
+      copyPadded(text, chars_.data(), N);
+    }
+  }
   constexpr void assignAt(std::size_t position, std::string_view text) {
     copyPadded(text, chars_.data() + position, N - position);
   }
   constexpr void shiftLeft() {
-    const FixedText before = *this;
-    assign(withoutLeadingBlanks(before.view()));
+    if (chars_.front() == ' ') {
+      const FixedText before = *this;
+      assign(withoutLeadingBlanks(before.view()));
+    }
   }
 
   constexpr std::string_view view() const { return {chars_.data(), N}; }
