@@ -32,9 +32,10 @@ class Texts {
   }
 
   std::vector<Element> elements() const {
-    std::vector<Element> elements(count_);
+    std::vector<Element> elements;
+    elements.reserve(count_);
     for (std::size_t i = 0; i < count_; ++i) {
-      elements[i] = {frontOf(text(i)), i};
+      elements.push_back({frontOf(text(i)), i});
     }
     return elements;
   }
@@ -55,13 +56,26 @@ class Texts {
   std::int64_t carried(std::size_t index) const { return carried_[index]; }
 
  private:
-  // For each column the bits in which some text differs from the first one.
+  // For each column the bits in which some text differs from the first one. Taken eight columns at a
+  // time: this reads every text whole.
   std::vector<unsigned char> varyingBits() const {
+    constexpr std::size_t kWord = sizeof(std::uint64_t);
     std::vector<unsigned char> varying(length_);
-    for (std::size_t i = 1; i < count_; ++i) {
-      for (std::size_t column = 0; column < length_; ++column) {
-        varying[column] |= static_cast<unsigned char>(text(i)[column] ^ texts_[column]);
+    for (std::size_t column = 0; column < length_; column += kWord) {
+      const std::size_t columns = std::min(kWord, length_ - column);
+      std::uint64_t first = 0;
+      std::uint64_t differing = 0;
+      std::memcpy(&first, texts_ + column, columns);
+      for (std::size_t i = 1; i < count_; ++i) {
+        std::uint64_t word = 0;
+        if (columns == kWord) {
+          std::memcpy(&word, text(i) + column, kWord);
+        } else {
+          std::memcpy(&word, text(i) + column, columns);
+        }
+        differing |= word ^ first;
       }
+      std::memcpy(varying.data() + column, &differing, columns);
     }
     return varying;
   }
@@ -135,6 +149,9 @@ void quicksortiterative(char* texts, const std::int32_t* textLength, std::int64_
   const auto less = [&given](const Element& a, const Element& b) { return given.less(a, b); };
 
   // A walk through a store often meets the texts in order already, or in the opposite one.
+  if (std::is_sorted(elements.begin(), elements.end(), less)) {
+    return;
+  }
   if (less(elements.back(), elements.front())) {
     std::reverse(elements.begin(), elements.end());
   }
@@ -143,11 +160,12 @@ void quicksortiterative(char* texts, const std::int32_t* textLength, std::int64_
   }
 
   const auto sortedTexts = std::make_unique_for_overwrite<char[]>(size * length);
-  const auto sortedCarried = std::make_unique_for_overwrite<std::int64_t[]>(size);
   for (std::size_t i = 0; i < size; ++i) {
     std::copy_n(given.text(elements[i].index), length, sortedTexts.get() + i * length);
-    sortedCarried[i] = given.carried(elements[i].index);
+    // The front has done its work and makes room.
+    elements[i].front = static_cast<std::uint64_t>(given.carried(elements[i].index));
   }
   std::copy_n(sortedTexts.get(), size * length, texts);
-  std::copy_n(sortedCarried.get(), size, carried);
+  std::transform(elements.begin(), elements.end(), carried,
+                 [](const Element& e) { return static_cast<std::int64_t>(e.front); });
 }

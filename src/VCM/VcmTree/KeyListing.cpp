@@ -1,10 +1,11 @@
 #include "VCM/VcmTree/KeyListing.h"
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 #include "Host/HostCore.h"
-#include "VCM/VcmFormats/NumberWriting.h"
+#include "VCM/VcmFormats/ColumnWriting.h"
 #include "VCM/VcmTree/Keys.h"
 #include "VCM/VcmTree/Store.h"
 
@@ -16,27 +17,44 @@ namespace {
 void writeSortText(const VcmBinTree& node, std::int32_t order, char* text) {
   if (order == kAsLoaded) {
     constexpr int kSequenceWidth = 12;
-    copyPadded("", text, kSortTextLength);
-    writeZeroFilled(text, kSequenceWidth, node.seqNum);
+    writeZeroFilled<kSequenceWidth>(text, node.seqNum);
+    copyPadded("", text + kSequenceWidth, kSortTextLength - kSequenceWidth);
   } else if (const VcmRecord* const record = recordOf(node)) {
     FieldsToStr(*record, text);
+  } else {
+    copyPadded("", text, kSortTextLength);
+  }
+}
+
+// Asks for what a sort text is made of, so that it is on its way when its turn comes: records lie all
+// over the memory.
+void prefetchRecord(const VcmBinTree& node) {
+  if (node.rec != nullptr) {
+    __builtin_prefetch(&node.rec->satNum);
+    __builtin_prefetch(&node.rec->epoch.seconds);
   }
 }
 
 struct SortList {
-  std::vector<char> texts;
+  std::unique_ptr<char[]> texts;
   std::vector<std::int64_t> keys;
 };
 
 SortList getTreeCombKeys(const VcmMedia& media, std::int32_t order) {
   const StoreReading reading;
-  const auto count = static_cast<std::size_t>(StoreTree::getTreeCount(media.root));
-  SortList list{std::vector<char>(count * kSortTextLength, ' '), {}};
-  list.keys.reserve(count);
-  StoreTree::walkDown(media.root, [&](const VcmBinTree& node) {
-    writeSortText(node, order, list.texts.data() + list.keys.size() * kSortTextLength);
-    list.keys.push_back(node.satKey);
-  });
+  std::vector<const VcmBinTree*> nodes;
+  StoreTree::walkDown(media.root, [&](const VcmBinTree& node) { nodes.push_back(&node); });
+  SortList list{std::make_unique_for_overwrite<char[]>(nodes.size() * kSortTextLength), {}};
+  list.keys.reserve(nodes.size());
+  char* text = list.texts.get();
+  for (std::size_t i = 0; i < nodes.size(); ++i, text += kSortTextLength) {
+    constexpr std::size_t kAhead = 16;
+    if (order != kAsLoaded && i + kAhead < nodes.size()) {
+      prefetchRecord(*nodes[i + kAhead]);
+    }
+    writeSortText(*nodes[i], order, text);
+    list.keys.push_back(nodes[i]->satKey);
+  }
   return list;
 }
 
@@ -68,7 +86,7 @@ void VcmGetTreeKeys(const VcmMedia& media, std::int32_t& count, std::int64_t* ke
   SortList list = getTreeCombKeys(media, order);
   constexpr std::int32_t kLength = kSortTextLength;
   const auto listed = static_cast<std::int32_t>(list.keys.size());
-  quicksortiterative(list.texts.data(), &kLength, list.keys.data(), &listed);
+  quicksortiterative(list.texts.get(), &kLength, list.keys.data(), &listed);
   std::int64_t* const first = keys + count;
   if (order == kBySatelliteReverse) {
     std::reverse_copy(list.keys.begin(), list.keys.end(), first);

@@ -4,7 +4,7 @@
 
 #include "Host/HostCalendar.h"
 #include "Host/HostCore.h"
-#include "VCM/VcmFormats/NumberWriting.h"
+#include "VCM/VcmFormats/ColumnWriting.h"
 
 namespace vcm {
 
@@ -34,9 +34,11 @@ std::int64_t FieldsToSatKey(std::int32_t satNum, std::span<const char, kEpochTex
 
 void FieldsToStr(const VcmRecord& record, char* text) {
   constexpr int kNumberWidth = 9;
-  copyPadded("", text, kSortTextLength);
-  writeZeroFilled(text, kNumberWidth, record.satNum);
-  writeFixed(text + kNumberWidth, 16, 9, inputDateToDs50(record.epoch));
+  constexpr int kEpochWidth = 16;
+  constexpr int kUsed = kNumberWidth + kEpochWidth;
+  writeZeroFilled<kNumberWidth>(text, record.satNum);
+  writeFixed<kEpochWidth, 9>(text + kNumberWidth, inputDateToDs50(record.epoch));
+  copyPadded("", text + kUsed, kSortTextLength - kUsed);
 }
 
 }  // namespace vcm

@@ -5,6 +5,9 @@
 // after counting itself, and backs out when it is up, no reader ever overlaps a writer, and a
 // waiting writer keeps new readers out. Waiting threads yield the processor.
 //
+// The flag and the count are written by one side and read by the other in opposite order, so they
+// need the single total order of sequentially consistent operations.
+//
 // One thread must not enter a gate twice: a writer that waits in between would lock both out.
 #ifndef VCM_VCMTREE_READGATE_H
 #define VCM_VCMTREE_READGATE_H
@@ -13,6 +16,7 @@
 #include <cstdint>
 #include <mutex>
 #include <shared_mutex>
+#include <thread>
 
 namespace vcm {
 
@@ -22,9 +26,22 @@ class ReadGate {
   using Reading = std::shared_lock<ReadGate>;
   using Updating = std::unique_lock<ReadGate>;
 
-  void lock_shared();  // enter and leave as a reader
-  void unlock_shared();
-  void lock();  // enter and leave as a writer
+  // Enter and leave as a reader.
+  void lock_shared() {
+    for (;;) {
+      while (isUpdating.load() != 0) {
+        std::this_thread::yield();
+      }
+      numReads.fetch_add(1);
+      if (isUpdating.load() == 0) {
+        return;
+      }
+      numReads.fetch_sub(1);
+    }
+  }
+  void unlock_shared() { numReads.fetch_sub(1); }
+  // Enter and leave as a writer.
+  void lock();
   void unlock();
 
  private:

@@ -4,7 +4,9 @@
 
 #include <cmath>
 #include <new>
+#include <vector>
 
+#include "VCM/VcmTree/DirectAddress.h"
 #include "VCM/VcmTree/Keys.h"
 #include "support/Messages.h"
 #include "support/StoreAccess.h"
@@ -205,19 +207,27 @@ TEST_F(Store, IsUnchangedWhenMemoryRunsOut) {
   const std::string noRecord = "AddRecToMem: Cannot allocate memory for a new rec.";
   addFails(0, withKey(noNode, vcm::createSatKeyFrVcm(satelliteAt(5))));
   useDirectAddresses();
-  std::int64_t last = vcm::AddVcmToMem(satelliteAt(5));
+  // Nothing stays stored, so that there is no block of nodes to take one from.
+  EXPECT_EQ(removeStored(vcm::AddVcmToMem(satelliteAt(5))), vcm::kStored);
+  std::vector<std::int64_t> taken;
   arraysLeft = 0;
-  for (std::int64_t key = last; key != vcm::kNoKey; key = vcm::AddVcmToMem(satelliteAt(5))) {
-    last = key;
+  while (vcm::DmaObject* const object = vcm::allocateDmaObject()) {
+    object->type = vcm::kVcmElsetType;
+    taken.push_back(vcm::keyOfDma(*object));
   }
+  addFails(INT32_MAX, "AddRecToMem: Cannot allocate memory for a new dma.");
   arraysLeft = INT32_MAX;
-  EXPECT_EQ(trace_.takeErrors(), Lines{"AddRecToMem: Cannot allocate memory for a new dma."});
   // One object is free from here on: whatever fails gives it back.
-  EXPECT_EQ(removeStored(last), vcm::kStored);
+  const std::int64_t last = taken.back();
+  taken.pop_back();
+  EXPECT_EQ(vcm::RemoveDMA(last), vcm::kStored);
   addFails(0, noRecord);
   addFails(0, noRecord);
   addFails(1, withKey(noNode, last));
   EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(5)), last);
+  for (const std::int64_t key : taken) {
+    EXPECT_EQ(vcm::RemoveDMA(key), vcm::kStored);
+  }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "DllExports/VCM/VcmDllVarsUtils/SingleFields.h"
 
+#include <algorithm>
 #include <array>
 
 #include "DllExports/VCM/VcmDllVarsUtils/UnknownKey.h"
@@ -30,16 +31,19 @@ bool change(const SingleField& field, std::string_view value, VcmRecord& record)
 
 std::int32_t GetField(std::int64_t satKey, std::int32_t fieldIndex, std::span<char> value) {
   std::array<char, kMaxFieldWidth> text;
-  std::size_t width = 0;
+  std::ptrdiff_t width = 0;
   if (const BorrowedRecord record(mediaVcm, satKey); !record) {
     copyPadded({}, value.data(), value.size());
     logUnknownKey("VcmGetField", satKey);
     return kNotFound;
   } else if (const SingleField* const field = findSingleField(fieldIndex)) {
     field->write(*record, text.data());
-    width = static_cast<std::size_t>(field->width);
+    width = field->width;
   }
-  copyPadded(withoutLeadingBlanks({text.data(), width}), value.data(), value.size());
+  // What was written holds no blanks but real ones.
+  const auto end = text.begin() + width;
+  const auto first = std::find_if(text.begin(), end, [](char c) { return c != ' '; });
+  std::fill(std::copy(first, end, value.begin()), value.end(), ' ');
   return kStored;
 }
 
