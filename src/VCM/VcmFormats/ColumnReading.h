@@ -14,6 +14,8 @@
 
 namespace vcm {
 
+// Signs change from number to number without a pattern: nothing here branches on one.
+
 // Blanks, a minus or not, digits: up to eight characters.
 struct SignedDigits {
   bool negative;
@@ -27,8 +29,9 @@ template <int Width>
   constexpr DigitBlock kBlanks = repeated(' ');
   DigitBlock block = loadLast<Width>(at) | (kBlanks & firstOf(kBlockDigits - Width));
   int before = countLeading(block, kBlanks);
-  const bool negative = before < kBlockDigits && static_cast<char>(block >> (before * 8)) == '-';
-  before += negative ? 1 : 0;
+  // Where all are blanks, the first of them is looked at.
+  const bool negative = static_cast<char>(block >> (before % kBlockDigits * 8)) == '-';
+  before += static_cast<int>(negative);
   block = merged(repeated('0'), block, before);
   return {negative, kBlockDigits - before, nonDigits(block), numberOf<Width>(block)};
 }
@@ -85,7 +88,7 @@ bool takeFixed(std::string_view field, double& value) {
   const double size =
       static_cast<double>(static_cast<std::int64_t>(whole.size * kScale + fraction)) /
       static_cast<double>(kScale);
-  value = whole.negative ? -size : size;
+  value = withSign(size, whole.negative);
   return true;
 }
 
@@ -102,9 +105,9 @@ inline bool takeLeadingZero(const char* at, bool& negative) {
   } else {
     const DigitBlock last = loadWord<std::uint16_t>(at + Width - 2);
     negative = last == twoCharacters("-0");
-    bool found = negative || last == twoCharacters(" 0");
+    bool found = negative | (last == twoCharacters(" 0"));
     for (int i = 0; i < Width - 2; ++i) {
-      found = found && at[i] == ' ';
+      found &= at[i] == ' ';
     }
     return found;
   }
@@ -140,7 +143,7 @@ inline bool takeScientific(std::string_view field, double& value) {
                        (negativeExponent ? -exponent : exponent) - Digits, size)) {
     return false;
   }
-  value = negative ? -size : size;
+  value = withSign(size, negative);
   return true;
 }
 

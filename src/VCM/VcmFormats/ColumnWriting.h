@@ -23,14 +23,14 @@ bool placeWhole(char* out, bool negative, std::uint32_t size) {
   // The last digit stays, also when it is a zero.
   constexpr DigitBlock kLastDigit = DigitBlock{1} << 56;
   const int zeros = std::countr_zero((digits ^ repeated('0')) | kLastDigit) / 8;
-  const int sign = negative ? 1 : 0;
+  const auto sign = static_cast<int>(negative);
   if (zeros - sign < kBlockDigits - kBlockWidth) {
     return false;
   }
-  DigitBlock block = merged(repeated(' '), digits, zeros);
-  if (negative) {
-    block ^= DigitBlock{' ' ^ '-'} << ((zeros - 1) * 8);
-  }
+  // The last blank becomes the sign, without a branch: signs have no pattern.
+  const DigitBlock block =
+      merged(repeated(' '), digits, zeros) ^
+      (DigitBlock{' ' ^ '-'} * static_cast<DigitBlock>(negative)) << ((zeros - sign) * 8);
   if constexpr (Width > kBlockDigits) {
     std::memset(out, ' ', Width - kBlockDigits);
   }

@@ -32,6 +32,12 @@ constexpr std::uint64_t mantissaOf(double size) {
   return (std::bit_cast<std::uint64_t>(size) & (kHiddenBit - 1)) | kHiddenBit;
 }
 
+// A size with the sign of a number, without a branch.
+constexpr double withSign(double size, bool negative) {
+  return std::bit_cast<double>(std::bit_cast<std::uint64_t>(size) |
+                               static_cast<std::uint64_t>(negative) << 63);
+}
+
 // ---- decimal to double --------------------------------------------------------------------------
 
 inline constexpr std::array kExactPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
@@ -70,9 +76,10 @@ bool roundedDigits(double size, std::uint64_t& digits, int& exponent) {
   }
   const std::uint64_t aligned = mantissaOf(size) << (64 - kMantissaBits);
   // The estimate is right or one too small: is the next power of ten reached?
-  const bool reached = binaryExponentOfPower(estimate + 1) == binaryExponent &&
-                       aligned >= powerOfTen(estimate + 1).high;
-  exponent = estimate + (reached ? 2 : 1);
+  const auto reached =
+      static_cast<int>(binaryExponentOfPower(estimate + 1) == binaryExponent) &
+      static_cast<int>(aligned >= powerOfTen(estimate + 1).high);
+  exponent = estimate + 1 + reached;
   const int power = Digits - exponent;
   const int shift = 62 - binaryExponent - binaryExponentOfPower(power);
   if (!roundedProduct(aligned, power, shift, digits)) {
@@ -101,7 +108,9 @@ std::uint64_t roundedFraction(double size) {
   const auto whole = static_cast<std::uint64_t>(scaled >> shift);
   const Uint128 rest = scaled << (128 - shift);
   constexpr Uint128 kHalf = Uint128{1} << 127;
-  return whole + static_cast<std::uint64_t>(rest > kHalf || (rest == kHalf && (whole & 1) != 0));
+  // Either way is as likely as the other: no branch.
+  return whole + (static_cast<std::uint64_t>(rest > kHalf) |
+                  (static_cast<std::uint64_t>(rest == kHalf) & whole));
 }
 
 }  // namespace vcm
