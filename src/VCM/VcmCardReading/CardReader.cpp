@@ -2,6 +2,45 @@
 
 namespace vcm {
 
+namespace {
+
+// The first place behind a line end where another character stands, `end` when there is none. Whole
+// stretches are looked at without a branch, which the compiler does many characters at a time.
+const char* findLineNotBeginningWith(char first, const char* at, const char* end) {
+  constexpr std::ptrdiff_t kStretch = 512;
+  for (; end - at > kStretch; at += kStretch) {
+    unsigned char found = 0;  // as wide as what is compared
+    for (std::ptrdiff_t i = 0; i < kStretch; ++i) {
+      found = static_cast<unsigned char>(
+          found | (static_cast<int>(at[i] == '\n') & static_cast<int>(at[i + 1] != first)));
+    }
+    if (found != 0) {
+      break;
+    }
+  }
+  while (at != end) {
+    const void* const lineEnd = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
+    if (lineEnd == nullptr) {
+      return end;
+    }
+    at = static_cast<const char*>(lineEnd) + 1;
+    if (at != end && *at != first) {
+      return at;
+    }
+  }
+  return end;
+}
+
+// Where the last line begins.
+const char* lastLine(const char* begin, const char* end) {
+  while (end != begin && end[-1] != '\n') {
+    --end;
+  }
+  return end;
+}
+
+}  // namespace
+
 CardReader::CardReader(std::FILE* stream) : stream_(stream), block_(kBlockSize) { rewind(); }
 
 void CardReader::rewind() {
@@ -25,6 +64,22 @@ bool CardReader::nextAfterRefill() {
       return take(static_cast<const char*>(lineEnd), 1);
     }
   }
+}
+
+bool CardReader::nextNotBeginningWith(char first) {
+  while (begin_ == end_ || *begin_ == first) {
+    if (begin_ != end_) {
+      const char* const line = findLineNotBeginningWith(first, begin_, end_);
+      begin_ = line == end_ ? lastLine(begin_, end_) : line;
+    }
+    if (begin_ == end_ || *begin_ == first) {
+      keepUnfinished();
+      if (!refill()) {
+        return false;
+      }
+    }
+  }
+  return next();
 }
 
 // Moves the unfinished card to the front, no more of it than a card holds. Returns how much that is.

@@ -28,7 +28,11 @@ class CardReader {
     const void* const lineEnd = std::memchr(begin_, '\n', static_cast<std::size_t>(end_ - begin_));
     return lineEnd != nullptr ? take(static_cast<const char*>(lineEnd), 1) : nextAfterRefill();
   }
-  // Valid until the next call of next() or rewind().
+  // Goes to the next card that begins with another character, at little more than the cost of passing
+  // over the others; their lines are not counted.
+  bool nextNotBeginningWith(char first);
+
+  // Valid until the next card is gone to, or rewind().
   std::string_view card() const { return card_; }
   // The card's line in the file, counted from 1.
   std::int64_t lineNumber() const { return lineNumber_; }

@@ -12,6 +12,7 @@
 #include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmCardReading/MultiLineParser.h"
 #include "VCM/VcmCardReading/OneLineParser.h"
+#include "VCM/VcmFormats/MultiLineLayout.h"
 #include "VCM/VcmTree/Keys.h"
 #include "VCM/VcmTree/Store.h"
 
@@ -139,7 +140,7 @@ std::int32_t followDirective(std::string_view card, MessageCounts& counts,
 
 // The first pass. Whatever the file's messages are, directives and the key mode come before them.
 std::int32_t followDirectives(CardReader& cards, MessageCounts& counts, ReadingObserver* observer) {
-  while (cards.next()) {
+  while (cards.nextNotBeginningWith(kLead.front())) {
     const std::string_view card = cards.card();
     if (isNoDirective(card)) {
       continue;

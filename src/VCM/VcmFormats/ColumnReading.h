@@ -24,29 +24,25 @@ struct SignedDigits {
   std::uint32_t size;
 };
 
-template <int Width>
-[[gnu::always_inline]] inline SignedDigits signedDigits(const char* at) {
+// Takes the N characters in a block's highest bytes; zeros stand below them.
+template <int N>
+[[gnu::always_inline]] inline SignedDigits signedDigits(DigitBlock block) {
   constexpr DigitBlock kBlanks = repeated(' ');
-  DigitBlock block = loadLast<Width>(at) | (kBlanks & firstOf(kBlockDigits - Width));
+  block |= kBlanks & firstOf(kBlockDigits - N);
   int before = countLeading(block, kBlanks);
   // Where all are blanks, the first of them is looked at.
   const bool negative = static_cast<char>(block >> (before % kBlockDigits * 8)) == '-';
   before += static_cast<int>(negative);
   block = merged(repeated('0'), block, before);
-  return {negative, kBlockDigits - before, nonDigits(block), numberOf<Width>(block)};
+  return {negative, kBlockDigits - before, nonDigits(block), numberOf<N>(block)};
 }
 
-// The N digits at `at`, up to sixteen. Bits of `invalid` are set where there is no digit.
+// The N digits at `at`, up to eight. Bits of `invalid` are set where there is no digit.
 template <int N>
-inline std::uint64_t unsignedDigits(const char* at, DigitBlock& invalid) {
-  if constexpr (N > kBlockDigits) {
-    const std::uint64_t high = unsignedDigits<N - kBlockDigits>(at, invalid);
-    return high * kBlockLimit + unsignedDigits<kBlockDigits>(at + (N - kBlockDigits), invalid);
-  } else {
-    const DigitBlock block = loadLast<N>(at) | (repeated('0') & firstOf(kBlockDigits - N));
-    invalid |= nonDigits(block);
-    return numberOf<N>(block);
-  }
+[[gnu::always_inline]] inline std::uint32_t unsignedDigits(const char* at, DigitBlock& invalid) {
+  const DigitBlock block = loadLast<N>(at) | (repeated('0') & firstOf(kBlockDigits - N));
+  invalid |= nonDigits(block);
+  return numberOf<N>(block);
 }
 
 // A whole number. False when the field looks otherwise.
@@ -58,7 +54,7 @@ bool takeInteger(std::string_view field, std::int32_t& value) {
     if (field.size() != Width) {
       return false;
     }
-    const SignedDigits number = signedDigits<Width>(field.data());
+    const SignedDigits number = signedDigits<Width>(loadLast<Width>(field.data()));
     // A sign needs digits; blanks alone are zero.
     if (number.invalid != 0 || (number.negative && number.digits == 0)) {
       return false;
@@ -71,23 +67,35 @@ bool takeInteger(std::string_view field, std::int32_t& value) {
 
 // A whole number, a point and `Decimals` digits. False when the field looks otherwise.
 template <int Width, int Decimals>
-bool takeFixed(std::string_view field, double& value) {
+inline bool takeFixed(std::string_view field, double& value) {
   constexpr int kPoint = Width - Decimals - 1;
-  static_assert(kPoint <= kBlockDigits && kPoint + Decimals <= kExactDigits);
+  // The decimals behind the point that are read with the whole number, as if there were no point, and
+  // the block of those that are left.
+  constexpr int kTail = Decimals < kBlockDigits ? 0 : kBlockDigits;
+  constexpr int kJoined = kPoint + Decimals - kTail <= kBlockDigits ? Decimals - kTail : 0;
+  constexpr int kApart = Decimals - kJoined;
+  static_assert(kPoint + kJoined <= kBlockDigits && kApart <= kBlockDigits &&
+                kPoint + Decimals <= kExactDigits);
   if (field.size() != Width || field[kPoint] != '.') {
     return false;
   }
-  const SignedDigits whole = signedDigits<kPoint>(field.data());
+  const char* const decimals = field.data() + kPoint + 1;
+  DigitBlock block = loadLast<kPoint>(field.data()) >> (kJoined * 8);
+  if constexpr (kJoined > 0) {
+    block |= loadLast<kJoined>(decimals);
+  }
+  const SignedDigits whole = signedDigits<kPoint + kJoined>(block);
   DigitBlock invalid = whole.invalid;
-  const std::uint64_t fraction = unsignedDigits<Decimals>(field.data() + kPoint + 1, invalid);
-  if (invalid != 0) {
+  std::uint64_t digits = whole.size;
+  if constexpr (kApart > 0) {
+    digits = digits * integerPowerOfTen(kApart) + unsignedDigits<kApart>(decimals + kJoined, invalid);
+  }
+  if (invalid != 0 || whole.digits < kJoined) {  // no blanks behind the point
     return false;
   }
-  constexpr std::uint64_t kScale = integerPowerOfTen(Decimals);
   // Both operands are exact, so the one division rounds correctly.
-  const double size =
-      static_cast<double>(static_cast<std::int64_t>(whole.size * kScale + fraction)) /
-      static_cast<double>(kScale);
+  const double size = static_cast<double>(static_cast<std::int64_t>(digits)) /
+                      static_cast<double>(integerPowerOfTen(Decimals));
   value = withSign(size, whole.negative);
   return true;
 }
