@@ -53,29 +53,29 @@ MappedRecords::MappedRecords(const Keys& loaded) {
     const vcm::VcmRecord* const record = records_[static_cast<std::size_t>(sequence)].get();
     map_[key] = {record, ++sequence};
   }
-  places_.reserve(loaded.size());
-  turns_.reserve(loaded.size());
 }
 
-void MappedRecords::list(std::int32_t order, Keys& keys) {
+void MappedRecords::list(std::int32_t order, Keys& keys) const {
   const auto keyOf = [](const auto& entry) { return entry.key; };
   if (order == VCM_ORDER_LOADED) {
-    turns_.clear();
+    std::vector<Turn> turns;
+    turns.reserve(map_.size());
     for (const auto& [key, entry] : map_) {
-      turns_.push_back({entry.sequence, key});
+      turns.push_back({entry.sequence, key});
     }
-    std::sort(turns_.begin(), turns_.end());
-    std::transform(turns_.begin(), turns_.end(), keys.begin(), keyOf);
+    std::sort(turns.begin(), turns.end());
+    std::transform(turns.begin(), turns.end(), keys.begin(), keyOf);
     return;
   }
-  places_.clear();
+  std::vector<Place> places;
+  places.reserve(map_.size());
   for (const auto& [key, entry] : map_) {
-    places_.push_back({entry.record->satNum, sortable(entry.record->epoch), key});
+    places.push_back({entry.record->satNum, sortable(entry.record->epoch), key});
   }
   if (order == VCM_ORDER_SATELLITE) {
-    std::sort(places_.begin(), places_.end());
+    std::sort(places.begin(), places.end());
   } else {
-    std::sort(places_.begin(), places_.end(), [](const Place& a, const Place& b) { return b < a; });
+    std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) { return b < a; });
   }
-  std::transform(places_.begin(), places_.end(), keys.begin(), keyOf);
+  std::transform(places.begin(), places.end(), keys.begin(), keyOf);
 }

@@ -24,7 +24,7 @@ class MappedRecords {
   const vcm::VcmRecord& find(std::int64_t key) const { return *map_.find(key)->second.record; }
 
   // The keys in an order of VcmGetLoaded: a walk that collects what is sorted by, and a sort.
-  void list(std::int32_t order, Keys& keys);
+  void list(std::int32_t order, Keys& keys) const;
 
  private:
   struct Place {
@@ -46,8 +46,6 @@ class MappedRecords {
 
   std::vector<std::unique_ptr<const vcm::VcmRecord>> records_;
   std::map<std::int64_t, Entry> map_;
-  std::vector<Place> places_;
-  std::vector<Turn> turns_;
 };
 
 #endif

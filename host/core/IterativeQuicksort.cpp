@@ -56,28 +56,31 @@ class Texts {
   std::int64_t carried(std::size_t index) const { return carried_[index]; }
 
  private:
-  // For each column the bits in which some text differs from the first one. Taken eight columns at a
-  // time: this reads every text whole.
+  // For each column the bits in which some text differs from the first one, found eight columns at a
+  // time.
   std::vector<unsigned char> varyingBits() const {
     constexpr std::size_t kWord = sizeof(std::uint64_t);
+    const std::size_t words = length_ / kWord;
+    const std::size_t inWords = words * kWord;
+    std::vector<std::uint64_t> differing(words);
     std::vector<unsigned char> varying(length_);
-    for (std::size_t column = 0; column < length_; column += kWord) {
-      const std::size_t columns = std::min(kWord, length_ - column);
-      std::uint64_t first = 0;
-      std::uint64_t differing = 0;
-      std::memcpy(&first, texts_ + column, columns);
-      for (std::size_t i = 1; i < count_; ++i) {
-        std::uint64_t word = 0;
-        if (columns == kWord) {
-          std::memcpy(&word, text(i) + column, kWord);
-        } else {
-          std::memcpy(&word, text(i) + column, columns);
-        }
-        differing |= word ^ first;
+    for (std::size_t i = 1; i < count_; ++i) {
+      for (std::size_t word = 0; word < words; ++word) {
+        differing[word] |= wordAt(texts_ + word * kWord) ^ wordAt(text(i) + word * kWord);
       }
-      std::memcpy(varying.data() + column, &differing, columns);
+      for (std::size_t column = inWords; column < length_; ++column) {
+        varying[column] =
+            static_cast<unsigned char>(varying[column] | (texts_[column] ^ text(i)[column]));
+      }
     }
+    std::memcpy(varying.data(), differing.data(), inWords);
     return varying;
+  }
+
+  static std::uint64_t wordAt(const char* at) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, at, sizeof word);
+    return word;
   }
 
   void chooseFront(const std::vector<unsigned char>& varying) {
@@ -120,7 +123,42 @@ class Texts {
   std::size_t restBegin_ = 0;
 };
 
-void sort(std::vector<Element>& elements, const Texts& texts) {
+using Elements = std::vector<Element>;
+
+// Joins two neighbouring stretches that are in order.
+void join(Elements::iterator first, Elements::iterator middle, Elements::iterator last,
+          const auto& less) {
+  if (less(*(last - 1), *first)) {
+    std::rotate(first, middle, last);
+  } else if (less(*middle, *(middle - 1))) {
+    std::inplace_merge(first, middle, last, less);
+  }
+}
+
+// A walk through a store often meets the texts in few stretches that are in order, or in the opposite
+// one. Sorts these; false, with the elements in any order, when there are many.
+bool joinStretches(Elements& elements, const auto& less) {
+  constexpr int kMost = 6;
+  auto sorted = elements.begin();
+  for (int stretches = 0; sorted != elements.end(); ++stretches) {
+    if (stretches == kMost) {
+      return false;
+    }
+    const auto begin = sorted;
+    sorted = std::is_sorted_until(begin, elements.end(), less);
+    if (sorted - begin == 1) {
+      const auto greater = [&less](const Element& a, const Element& b) { return less(b, a); };
+      sorted = std::is_sorted_until(begin, elements.end(), greater);
+      std::reverse(begin, sorted);
+    }
+    if (begin != elements.begin()) {
+      join(elements.begin(), begin, sorted, less);
+    }
+  }
+  return true;
+}
+
+void sort(Elements& elements, const Texts& texts) {
   Element* const last = elements.data() + elements.size();
   hostcore::boundedQuicksort(elements.data(), last, kLessByFront);
   for (Element* run = elements.data(); run != last;) {
@@ -145,17 +183,9 @@ void quicksortiterative(char* texts, const std::int32_t* textLength, std::int64_
     return;
   }
   const Texts given(texts, length, carried, size);
-  std::vector<Element> elements = given.elements();
+  Elements elements = given.elements();
   const auto less = [&given](const Element& a, const Element& b) { return given.less(a, b); };
-
-  // A walk through a store often meets the texts in order already, or in the opposite one.
-  if (std::is_sorted(elements.begin(), elements.end(), less)) {
-    return;
-  }
-  if (less(elements.back(), elements.front())) {
-    std::reverse(elements.begin(), elements.end());
-  }
-  if (!std::is_sorted(elements.begin(), elements.end(), less)) {
+  if (!joinStretches(elements, less)) {
     sort(elements, given);
   }
 

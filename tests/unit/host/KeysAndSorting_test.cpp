@@ -22,12 +22,14 @@ TEST(Quicksort, AgreesWithTheStandardSort) {
     std::vector<std::int64_t> carried;
     std::vector<std::pair<std::string, std::int64_t>> rows;
     for (Size i = 0; i < n; ++i) {
-      // Digits, whose values rise, fall, do both, are few or any; then bytes, two or any.
-      const Size values[] = {i, n - i, std::min(i, n - i), random() % 5, random(), 0, 0};
+      // Digits, whose values rise, fall, do both, rise three times, are few or any; then bytes, two or
+      // any.
+      const Size values[] = {i, n - i, std::min(i, n - i), i * 3 % (n + 1), random() % 5, random(),
+                             0, 0};
       std::string text = std::string(width, '0') + std::to_string(values[kind]);
       text.erase(0, text.size() - width);
       for (char& c : text) {
-        c = kind < 5 ? c : static_cast<char>(kind == 5 ? random() % 2 * 255 : random());
+        c = kind < 6 ? c : static_cast<char>(kind == 6 ? random() % 2 * 255 : random());
       }
       texts += text;
       carried.push_back(static_cast<int>(random() % 100) - 50);
@@ -40,7 +42,7 @@ TEST(Quicksort, AgreesWithTheStandardSort) {
           << "kind " << kind << ", row " << i << " of " << count << " x " << length;
     }
   };
-  for (int kind = 0; kind < 7; ++kind) {
+  for (int kind = 0; kind < 8; ++kind) {
     for (const std::int32_t length : {0, 1, 2, 8, 12, 32, 33, 70}) {
       for (const std::int32_t count : {-1, 0, 1, 2, 3, 24, 25, 26, 255, 300, 5000}) {
         ASSERT_NO_FATAL_FAILURE(check(kind, length, count));
