@@ -88,7 +88,8 @@ inline bool takeFixed(std::string_view field, double& value) {
   DigitBlock invalid = whole.invalid;
   std::uint64_t digits = whole.size;
   if constexpr (kApart > 0) {
-    digits = digits * integerPowerOfTen(kApart) + unsignedDigits<kApart>(decimals + kJoined, invalid);
+    digits =
+        digits * integerPowerOfTen(kApart) + unsignedDigits<kApart>(decimals + kJoined, invalid);
   }
   if (invalid != 0 || whole.digits < kJoined) {  // no blanks behind the point
     return false;

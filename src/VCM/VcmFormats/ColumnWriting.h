@@ -28,9 +28,9 @@ bool placeWhole(char* out, bool negative, std::uint32_t size) {
     return false;
   }
   // The last blank becomes the sign, without a branch: signs have no pattern.
-  const DigitBlock block =
-      merged(repeated(' '), digits, zeros) ^
-      (DigitBlock{' ' ^ '-'} * static_cast<DigitBlock>(negative)) << ((zeros - sign) * 8);
+  const DigitBlock block = merged(repeated(' '), digits, zeros) ^
+                           (DigitBlock{' ' ^ '-'} * static_cast<DigitBlock>(negative))
+                               << ((zeros - sign) * 8);
   if constexpr (Width > kBlockDigits) {
     std::memset(out, ' ', Width - kBlockDigits);
   }

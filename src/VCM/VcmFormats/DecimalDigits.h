@@ -76,9 +76,8 @@ bool roundedDigits(double size, std::uint64_t& digits, int& exponent) {
   }
   const std::uint64_t aligned = mantissaOf(size) << (64 - kMantissaBits);
   // The estimate is right or one too small: is the next power of ten reached?
-  const auto reached =
-      static_cast<int>(binaryExponentOfPower(estimate + 1) == binaryExponent) &
-      static_cast<int>(aligned >= powerOfTen(estimate + 1).high);
+  const auto reached = static_cast<int>(binaryExponentOfPower(estimate + 1) == binaryExponent) &
+                       static_cast<int>(aligned >= powerOfTen(estimate + 1).high);
   exponent = estimate + 1 + reached;
   const int power = Digits - exponent;
   const int shift = 62 - binaryExponent - binaryExponentOfPower(power);

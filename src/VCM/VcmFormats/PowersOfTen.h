@@ -36,7 +36,8 @@ constexpr bool isInPowerTable(int power) {
 }
 
 inline const PowerOfTen& powerOfTen(int power) {
-  return kPowersOfTen[static_cast<std::size_t>(power + kLargestPower)];
+  const int place = power + kLargestPower;
+  return kPowersOfTen[static_cast<std::size_t>(place)];
 }
 
 // floor(log2(10^power)), for the powers of the table.
