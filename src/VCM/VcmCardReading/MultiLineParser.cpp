@@ -48,20 +48,27 @@ auto withColumns(std::string_view line, bool bareForm, Visit&& visit) {
                                             : visit(AnyColumns(line, bareForm));
 }
 
+// Every line of a message runs code of its own, so that what is seldom needed is kept out of it: the
+// code of a whole message should stay in the processor's instruction cache.
+
 // A label's own blanks may be any kind of blank.
+[[gnu::noinline]] bool isLabelWithOtherBlanks(std::string_view text, std::string_view label) {
+  return std::equal(text.begin(), text.end(), label.begin(), label.end(), [](char c, char wanted) {
+    return c == wanted || (wanted == ' ' && isBlank(c));
+  });
+}
+
 template <std::size_t Line, class Columns>
 bool hasLabel(const Columns& line) {
   static constexpr const LineLayout& layout = kMultiLineLayout[Line];
   constexpr std::string_view label = layout.labelText();
   const std::string_view text = line.at(layout.label.first, layout.label.width);
-  return text.size() == label.size() &&
-         (std::memcmp(text.data(), label.data(), label.size()) == 0 ||
-          std::equal(text.begin(), text.end(), label.begin(), [](char c, char wanted) {
-            return c == wanted || (wanted == ' ' && isBlank(c));
-          }));
+  return (text.size() == label.size() &&
+          std::memcmp(text.data(), label.data(), label.size()) == 0) ||
+         isLabelWithOtherBlanks(text, label);
 }
 
-void reject(VcmRecord& record, const LineLayout& layout, ReportedBy reportedBy) {
+[[gnu::noinline]] void reject(VcmRecord& record, const LineLayout& layout, ReportedBy reportedBy) {
   record.parseStatus = kRejected;
   std::string message(reportedBy == ReportedBy::fileReader ? "ReadVCMFrFileUnit" : "MultiLine2Vcm");
   message.append(": Invalid line caused read error @ '").append(layout.name).append("'.");
@@ -121,10 +128,13 @@ bool readLine(Source& source, VcmRecord& record) {
 template <class Columns>
 bool readCovarianceRow(const Columns& row, std::span<double> values) {
   int inRow = 0;
-  return std::all_of(values.begin(), values.end(), [&](double& value) {
-    return CovarianceFormat::read(row.at(covarianceColumn(inRow++), CovarianceFormat::width),
-                                  value);
-  });
+  for (double& value : values) {  // NOLINT(readability-use-anyofallof): that one unrolls
+    if (!CovarianceFormat::read(row.at(covarianceColumn(inRow++), CovarianceFormat::width),
+                                value)) {
+      return false;
+    }
+  }
+  return true;
 }
 
 // Reads the rows that the covariance size announces; false when one is missing or cannot be read.
@@ -215,7 +225,7 @@ class FileLines {
 
  private:
   // The card that announced the message, as it was classified: shifted left and in capitals.
-  std::string_view firstLine() {
+  [[gnu::noinline]] std::string_view firstLine() {
     copyPadded(withoutLeadingBlanks(cards_.card()), start_.data(), start_.size());
     constexpr std::int32_t kLength = kMessageLineWidth;
     touppercase(start_.data(), &kLength);

@@ -156,18 +156,21 @@ inline bool takeScientific(std::string_view field, double& value) {
   return true;
 }
 
+// These are not expanded where they are called: fields of the same shape share their code, so that the
+// code that reads a whole message fits the processor's instruction cache.
+
 template <int Width>
-bool readInteger(std::string_view field, std::int32_t& value) {
+[[gnu::noinline]] bool readInteger(std::string_view field, std::int32_t& value) {
   return takeInteger<Width>(field, value) || readInteger(field, value);
 }
 
 template <int Width, int Decimals>
-bool readFixed(std::string_view field, int impliedDecimals, double& value) {
+[[gnu::noinline]] bool readFixed(std::string_view field, int impliedDecimals, double& value) {
   return takeFixed<Width, Decimals>(field, value) || readReal(field, impliedDecimals, value);
 }
 
 template <int Width, int Digits>
-bool readScientific(std::string_view field, int impliedDecimals, double& value) {
+[[gnu::noinline]] bool readScientific(std::string_view field, int impliedDecimals, double& value) {
   return takeScientific<Width, Digits>(field, value) || readReal(field, impliedDecimals, value);
 }
 
