@@ -61,8 +61,10 @@ void placeDigits(char* out, std::uint64_t number) {
   }
 }
 
+// Fields of the same shape share the code of these, as they do in ColumnReading.h.
+
 template <int Width>
-void writeInteger(char* out, std::int32_t value) {
+[[gnu::noinline]] void writeInteger(char* out, std::int32_t value) {
   const bool negative = value < 0;
   const auto bits = static_cast<std::uint32_t>(value);
   const std::uint32_t size = negative ? 0 - bits : bits;
@@ -72,7 +74,7 @@ void writeInteger(char* out, std::int32_t value) {
 }
 
 template <int Width>
-void writeZeroFilled(char* out, std::int32_t value) {
+[[gnu::noinline]] void writeZeroFilled(char* out, std::int32_t value) {
   constexpr std::int64_t kLimit = static_cast<std::int64_t>(integerPowerOfTen(Width));
   if (value >= 0 && value < kLimit) {
     placeDigits<Width>(out, static_cast<std::uint64_t>(value));
@@ -82,7 +84,7 @@ void writeZeroFilled(char* out, std::int32_t value) {
 }
 
 template <int Width, int Decimals>
-void writeFixed(char* out, double value) {
+[[gnu::noinline]] void writeFixed(char* out, double value) {
   constexpr int kWholeWidth = Width - Decimals - 1;
   const double size = std::fabs(value);
   if (size < kBlockLimit - 1) {  // not for not-a-number
@@ -102,7 +104,7 @@ void writeFixed(char* out, double value) {
 }
 
 template <int Width, int Digits>
-void writeScientific(char* out, double value) {
+[[gnu::noinline]] void writeScientific(char* out, double value) {
   constexpr int kWholeWidth = Width - Digits - 5;
   constexpr int kExponentWidth = 2;
   constexpr int kLargestExponent = 99;

@@ -10,6 +10,7 @@
 #ifndef VCM_VCMFORMATS_FIELD_H
 #define VCM_VCMFORMATS_FIELD_H
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -127,7 +128,7 @@ struct MillisecondRate {
 struct Characters {
   template <std::size_t N>
   static void write(const FixedText<N>& value, char* out) {
-    copyPadded(value.view(), out, N);
+    std::copy_n(value.view().data(), N, out);  // has no blanks but real ones
   }
   template <std::size_t N>
   static bool read(std::string_view text, FixedText<N>& value) {
