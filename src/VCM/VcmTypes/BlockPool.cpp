@@ -1,8 +1,18 @@
 #include "VCM/VcmTypes/BlockPool.h"
 
+#include <sys/mman.h>
+
 #include <new>
 
 namespace vcm {
+
+namespace {
+
+constexpr std::size_t kSmallBlock = std::size_t{160} << 10;
+constexpr int kSmallBlocks = 8;  // of these, so that a small store stays small
+constexpr std::size_t kHugePage = std::size_t{2} << 20;
+
+}  // namespace
 
 void* BlockPool::take() {
   const std::lock_guard<std::mutex> guard(lock_);
@@ -28,23 +38,33 @@ void BlockPool::giveBack(void* object) {
 }
 
 bool BlockPool::grow() {
-  constexpr std::size_t kObjectsPerBlock = 4096;
-  const std::size_t size = kObjectsPerBlock * objectSize_;
-  auto* const block = static_cast<std::byte*>(::operator new(sizeof(Link) + size, std::nothrow));
-  if (block == nullptr) {
+  const bool large = blocks_ != nullptr && blocks_->number >= kSmallBlocks;
+  const std::size_t size = large ? kHugePage : kSmallBlock;
+  void* const memory = large ? ::operator new (size, std::align_val_t{kHugePage}, std::nothrow)
+                             : ::operator new(size, std::nothrow);
+  if (memory == nullptr) {
     return false;
   }
-  blocks_ = ::new (block) Link{blocks_};
-  unused_ = block + sizeof(Link);
-  end_ = unused_ + size;
+#ifdef MADV_HUGEPAGE
+  if (large) {
+    madvise(memory, size, MADV_HUGEPAGE);  // it is only advice: refused, all is as before
+  }
+#endif
+  blocks_ = ::new (memory) Block{blocks_, blocks_ == nullptr ? 1 : blocks_->number + 1};
+  unused_ = static_cast<std::byte*>(memory) + sizeof(Block);
+  end_ = unused_ + (size - sizeof(Block)) / objectSize_ * objectSize_;
   return true;
 }
 
 void BlockPool::giveBackBlocks() {
   while (blocks_ != nullptr) {
-    Link* const block = blocks_;
-    blocks_ = block->next;
-    ::operator delete(block);
+    Block* const block = blocks_;
+    blocks_ = block->before;
+    if (block->number > kSmallBlocks) {
+      ::operator delete (block, std::align_val_t{kHugePage});
+    } else {
+      ::operator delete(block);
+    }
   }
   unused_ = end_ = nullptr;
   free_ = nullptr;

@@ -1,7 +1,8 @@
 // Memory for objects of one size, side by side in blocks.
 //
 // A search visits objects that were made at quite different times: it is faster where many of them
-// share a page and nothing else lies between. Blocks are given back when the last object is.
+// share a page and nothing else lies between, and where pages are huge: blocks are, but for the first.
+// All are given back when the last object is.
 #ifndef VCM_VCMTYPES_BLOCKPOOL_H
 #define VCM_VCMTYPES_BLOCKPOOL_H
 
@@ -24,13 +25,18 @@ class BlockPool {
   struct Link {
     Link* next;
   };
+  // What a block begins with.
+  struct Block {
+    Block* before;
+    int number;  // from 1
+  };
 
   bool grow();
   void giveBackBlocks();
 
   std::mutex lock_;
   const std::size_t objectSize_;
-  Link* blocks_ = nullptr;       // each begins with the link to the one before
+  Block* blocks_ = nullptr;      // the newest
   std::byte* unused_ = nullptr;  // the rest of the newest block
   std::byte* end_ = nullptr;
   Link* free_ = nullptr;  // objects given back

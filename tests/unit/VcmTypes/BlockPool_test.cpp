@@ -12,7 +12,7 @@ constexpr std::size_t kSize = 40;
 
 TEST(BlockPool, ObjectsLieApartAndComeBackFirst) {
   vcm::BlockPool pool(kSize);
-  constexpr int kCount = 10'000;  // several blocks
+  constexpr int kCount = 50'000;  // blocks of both kinds
   for (int round = 0; round < 2; ++round) {
     std::vector<void*> objects;
     for (int i = 0; i < kCount; ++i) {
