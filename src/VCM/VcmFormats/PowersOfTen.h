@@ -46,9 +46,9 @@ constexpr int binaryExponentOfPower(int power) { return (power * 217706) >> 16; 
 // floor(log10(2^exponent)), for the exponents of doubles.
 constexpr int decimalExponentOfPower(int exponent) { return (exponent * 315653) >> 20; }
 
-// number * 10^power * 2^-shift / 2^(64 + binaryExponentOfPower(power) - 63) rounded to nearest, ties to
-// even: the first 64 bits of the product without their last `shift` ones, 1 to 63. False when the bits
-// at hand do not tell which way to round.
+// The upper 64 bits of the product of a number with the bits of a power, without their last `shift` ones
+// (1 to 63 of them), rounded to nearest, ties to even. False when the bits at hand do not tell which way
+// to round.
 inline bool roundedProduct(std::uint64_t number, int power, int shift, std::uint64_t& rounded) {
   const PowerOfTen& factor = powerOfTen(power);
   const Uint128 product = Uint128{number} * factor.high + (Uint128{number} * factor.low >> 64);
