@@ -36,6 +36,10 @@ void prefetchRecord(const VcmBinTree& node) {
 }
 
 struct SortList {
+  explicit SortList(std::size_t count)
+      : texts(std::make_unique_for_overwrite<char[]>(count * kSortTextLength)) {
+    keys.reserve(count);
+  }
   std::unique_ptr<char[]> texts;
   std::vector<std::int64_t> keys;
 };
@@ -44,8 +48,7 @@ SortList getTreeCombKeys(const VcmMedia& media, std::int32_t order) {
   const StoreReading reading;
   std::vector<const VcmBinTree*> nodes;
   StoreTree::walkDown(media.root, [&](const VcmBinTree& node) { nodes.push_back(&node); });
-  SortList list{std::make_unique_for_overwrite<char[]>(nodes.size() * kSortTextLength), {}};
-  list.keys.reserve(nodes.size());
+  SortList list(nodes.size());
   char* text = list.texts.get();
   for (std::size_t i = 0; i < nodes.size(); ++i, text += kSortTextLength) {
     constexpr std::size_t kAhead = 16;
