@@ -73,7 +73,7 @@ class Texts {
             static_cast<unsigned char>(varying[column] | (texts_[column] ^ text(i)[column]));
       }
     }
-    std::memcpy(varying.data(), differing.data(), inWords);
+    std::copy_n(reinterpret_cast<const unsigned char*>(differing.data()), inWords, varying.begin());
     return varying;
   }
 
