@@ -19,9 +19,13 @@ if(VCM_SANITIZE)
   target_compile_options(vcm_compile_options INTERFACE
     -fsanitize=${VCM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(vcm_compile_options INTERFACE -fsanitize=${VCM_SANITIZE})
+  if(VCM_SANITIZE MATCHES address)
+    # Compilers do not agree on how to tell a source so.
+    target_compile_definitions(vcm_compile_options INTERFACE VCM_ADDRESS_SANITIZER)
+  endif()
 endif()
 if(VCM_COVERAGE)
-  target_compile_options(vcm_compile_options INTERFACE --coverage)
+  target_compile_options(vcm_compile_options INTERFACE --coverage -fprofile-update=atomic)
   target_link_options(vcm_compile_options INTERFACE --coverage)
 endif()
 

@@ -1,6 +1,6 @@
 #include "VCM/VcmTypes/VcmBinTree.h"
 
-#ifndef __SANITIZE_ADDRESS__
+#ifndef VCM_ADDRESS_SANITIZER
 
 #include "VCM/VcmTypes/BlockPool.h"
 

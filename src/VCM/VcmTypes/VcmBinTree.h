@@ -17,7 +17,7 @@ struct VcmBinTree {
   VcmBinTree* right = nullptr;  // larger keys
   VcmRecord* rec = nullptr;     // owned; null when the key is a direct address
 
-#ifndef __SANITIZE_ADDRESS__
+#ifndef VCM_ADDRESS_SANITIZER
   // Nodes lie side by side, apart from their records. The address sanitizer sees them one by one.
   static void* operator new(std::size_t size, const std::nothrow_t& tag) noexcept;
   static void operator delete(void* node) noexcept;  // NOLINT(misc-new-delete-overloads): as above
