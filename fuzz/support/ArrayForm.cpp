@@ -1,0 +1,65 @@
+#include "support/ArrayForm.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+#include "support/Fuzzing.h"
+
+namespace fuzz {
+
+namespace {
+
+using Writer = decltype(&VcmArrayToVcmLines);
+
+bool equalBits(const std::vector<double>& a, const std::vector<double>& b) {
+  return std::memcmp(a.data(), b.data(), a.size() * sizeof(double)) == 0;
+}
+
+// Numbers that do not fit say so; marks and controls in texts cut lines, or the whole text.
+bool tellsOfLoss(const std::vector<char>& text) {
+  const std::string_view view(text.data(), text.size());
+  const auto marks =
+      std::count(view.begin(), view.end(), '<') + std::count(view.begin(), view.end(), '>');
+  const auto leads = (view.size() - 1) / 80 + 1;
+  return view.find('*') != view.npos || view.find("NaN") != view.npos ||
+         marks > static_cast<std::ptrdiff_t>(2 * leads) ||
+         std::any_of(view.begin(), view.end(), [](char c) { return c >= '\0' && c < ' '; });
+}
+
+// The message as it comes out of its own text. False when that text is not one to read.
+bool readBack(Writer write, std::size_t length, const ArrayForm& message, ArrayForm& read) {
+  std::vector<char> text(length);
+  require(write(message.numbers.data(), message.texts.data(), text.data()) == 0,
+          "arrays can be written");
+  return !tellsOfLoss(text) &&
+         VcmStringToArray(text.data(), read.numbers.data(), read.texts.data()) == 0;
+}
+
+}  // namespace
+
+ArrayForm ArrayForm::of(std::int64_t satKey) {
+  ArrayForm form;
+  require(VcmRetrieveAllData(satKey, form.texts.data(), form.numbers.data()) == 0,
+          "a stored message is there");
+  return form;
+}
+
+bool ArrayForm::operator==(const ArrayForm& other) const {
+  return equalBits(numbers, other.numbers) && texts == other.texts;
+}
+
+void requireStable(const ArrayForm& message) {
+  constexpr std::pair<Writer, std::size_t> kForms[] = {{VcmArrayToVcmLines, VCM_TEXT_LENGTH},
+                                                       {VcmArrayToVcm1Line, VCM_ONE_LINE_LENGTH}};
+  for (const auto& [write, length] : kForms) {
+    ArrayForm once;
+    ArrayForm twice;
+    if (readBack(write, length, message, once)) {
+      require(readBack(write, length, once, twice), "what was read can be written and read");
+      require(equalBits(once.numbers, twice.numbers), "numbers that were text stay as they are");
+    }
+  }
+}
+
+}  // namespace fuzz

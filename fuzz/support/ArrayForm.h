@@ -1,0 +1,29 @@
+// A message in the array form, and what must hold of every message that was written as text.
+#ifndef FUZZ_SUPPORT_ARRAYFORM_H
+#define FUZZ_SUPPORT_ARRAYFORM_H
+
+#include <cstdint>
+#include <vector>
+
+#include "vcm/Vcm.h"
+
+namespace fuzz {
+
+// As callers pass it, in memory of just its size.
+struct ArrayForm {
+  std::vector<double> numbers = std::vector<double>(VCM_NUM_ARRAY_LENGTH);
+  std::vector<char> texts = std::vector<char>(VCM_CHAR_ARRAY_LENGTH, ' ');
+
+  // A stored message.
+  static ArrayForm of(std::int64_t satKey);
+  // To the bit.
+  bool operator==(const ArrayForm& other) const;
+};
+
+// Both text forms can be written of it; and once a message has been text, its numbers are what they stay,
+// however often they are written and read.
+void requireStable(const ArrayForm& message);
+
+}  // namespace fuzz
+
+#endif
