@@ -33,5 +33,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (status == 0) {
     fuzz::requireStable(parsed);
   }
+
+  const std::int64_t made =
+      VcmFieldsToSatKey(5, fuzz::argument(given, VCM_EPOCH_TEXT_LENGTH).data());
+  require(made == -1 || (made > 0 && made % 2 == 1), "an epoch makes an ordinary key, or none");
   return 0;
 }
