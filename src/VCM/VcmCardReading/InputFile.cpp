@@ -1,6 +1,5 @@
 #include "VCM/VcmCardReading/InputFile.h"
 
-#include <cerrno>
 #include <utility>
 #include <vector>
 
@@ -18,10 +17,10 @@ int copyAll(std::FILE* from, std::FILE* to) {
   std::vector<char> block(kBlockSize);
   for (std::size_t n = 0; (n = std::fread(block.data(), 1, block.size(), from)) > 0;) {
     if (std::fwrite(block.data(), 1, n, to) < n) {
-      return errno;
+      return streamError();
     }
   }
-  return std::fflush(to) == 0 ? 0 : errno;
+  return std::fflush(to) == 0 ? 0 : streamError();
 }
 
 }  // namespace
@@ -38,7 +37,7 @@ std::int32_t openInputFile(std::string_view name, OpenFile& file) {
     return 0;
   }
   OpenFile copy(std::tmpfile());
-  const int code = copy == nullptr ? errno : copyAll(stream, copy.get());
+  const int code = copy == nullptr ? streamError() : copyAll(stream, copy.get());
   file = code == 0 ? std::move(copy) : nullptr;
   return code;
 }

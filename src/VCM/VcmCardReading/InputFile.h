@@ -2,6 +2,7 @@
 #ifndef VCM_VCMCARDREADING_INPUTFILE_H
 #define VCM_VCMCARDREADING_INPUTFILE_H
 
+#include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <memory>
@@ -13,6 +14,9 @@ struct CloseFile {
   void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+// Why a stream failed just now, never 0: not every stream that a host hands out says why.
+inline std::int32_t streamError() { return errno != 0 ? errno : EIO; }
 
 // Opens a file for reading. What cannot be rewound (a pipe, a terminal) is copied to a temporary file
 // first. Returns 0, or the nonzero code of an open or a copy that failed: then `file` is null.

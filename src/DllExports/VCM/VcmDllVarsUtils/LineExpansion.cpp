@@ -1,7 +1,6 @@
 #include "DllExports/VCM/VcmDllVarsUtils/LineExpansion.h"
 
 #include <array>
-#include <cerrno>
 #include <charconv>
 #include <string>
 
@@ -124,10 +123,10 @@ std::int32_t Vcm1LineToMany(std::string_view inputFile, std::string_view outputF
     }
     appendCovariance(message, expanded);
     if (std::fwrite(expanded.data(), 1, expanded.size(), output.get()) < expanded.size()) {
-      return errno;
+      return streamError();
     }
   }
-  return std::fclose(output.release()) == 0 ? 0 : errno;
+  return std::fclose(output.release()) == 0 ? 0 : streamError();
 }
 
 }  // namespace vcm
