@@ -1,15 +1,27 @@
-// Threads against each other on one store, for the thread sanitizer and for half-made records.
+// Threads against each other on one store, for the thread sanitizer and for half-made records. The
+// environment variable VCM_STRESS_OPERATIONS tells how many operations there are in all.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
-#include <map>
+#include <condition_variable>
+#include <cstdlib>
+#include <deque>
+#include <iostream>
 #include <thread>
 #include <vector>
 
+#include "VCM/VcmCardReading/InputFile.h"
+#include "VCM/VcmCardReading/MultiLineParser.h"
 #include "VCM/VcmTree/Keys.h"
+#include "VCM/VcmTree/MultiLineWriter.h"
+#include "host/HostTrace.h"
+#include "support/Messages.h"
+#include "support/RandomCount.h"
 #include "support/RandomRecords.h"
 #include "support/StoreAccess.h"
+#include "vcm/Vcm.h"
 
 using vcm::mediaVcm;
 using vcm::VcmRecord;
@@ -17,8 +29,9 @@ using vcm::VcmRecord;
 namespace {
 
 constexpr int kLasting = 20;  // satellites 1 to 20: updated, never removed
-constexpr int kSteps = 2500;  // of each thread
-constexpr int kWriters = 2;
+constexpr int kThreads = 4;   // each adds a satellite of its own behind those
+constexpr int kFirstLoaded = kLasting + 1 + kThreads;  // and loads two others of its own
+constexpr int kInFile = 2;
 
 // Every part of a record tells the same value, so that a half-made one shows.
 VcmRecord recordOf(int satNum, int value) {
@@ -26,136 +39,243 @@ VcmRecord recordOf(int satNum, int value) {
   record.satNum = satNum;
   record.epoch = {2024, 1 + value % 300, 0, 0, 0.0};
   record.eciPos[0] = record.eciVel[0] = record.bTerm = record.covMtx.back() = value;
+  record.covMtxSize = vcm::kCovarianceDimension;
   record.extraLines.assign(static_cast<std::size_t>(1 + value % 2),
-                           vcm::ExtraLine(std::to_string(value)));
+                           vcm::ExtraLine("MANEUV " + std::to_string(value)));
   return record;
 }
 
+// What is loaded gets its maneuver cards a little later; what is saved loses them.
 bool isWhole(const VcmRecord& record) {
   const VcmRecord same = recordOf(record.satNum, static_cast<int>(record.bTerm));
   return vcm::equal(record, same) && record.covMtx == same.covMtx &&
-         record.extraLines == same.extraLines;
+         (record.extraLines.empty() || record.extraLines == same.extraLines);
 }
 
-// A record that lasts must be there; any record must be whole.
-void find(std::int64_t key, bool lasts) {
-  VcmRecord copy;
-  vcm::VcmFindRec(mediaVcm, key, copy);
-  EXPECT_TRUE(copy.satNum == vcm::kNoSatellite ? !lasts : isWhole(copy)) << "key " << key;
-  const vcm::BorrowedRecord borrowed(mediaVcm, key);
-  EXPECT_TRUE(borrowed ? isWhole(*borrowed) : !lasts) << "key " << key;
-}
+// One of the threads, and what it alone adds and removes.
+struct Worker {
+  explicit Worker(int given) : number(given), random(static_cast<std::uint64_t>(given)) {
+    const vcm::OpenFile file(std::fopen(toLoad.path().c_str(), "w"));
+    vcm::LineOutput output(file.get());
+    for (int i = 0; i < kInFile; ++i) {
+      const VcmRecord record = recordOf(firstLoaded() + i, 10 * number + i);
+      vcm::Vcm2Lines(record, output);
+      for (const vcm::ExtraLine& card : record.extraLines) {
+        output.line(card.view());
+      }
+    }
+  }
+  int satNum() const { return kLasting + 1 + number; }
+  int firstLoaded() const { return kFirstLoaded + kInFile * number; }
+
+  int number;
+  RandomRecords random;
+  std::vector<std::int64_t> keys;
+  TemporaryFile toLoad, saved;
+  std::atomic<const char*> doing{"nothing"};
+};
 
 // With true as parameter, direct addresses beside ordinary keys.
 class StoreStress : public testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
     emptyStore();
+    hosttracesink(&StoreStress::hear, this);
     for (int satNum = 1; satNum <= kLasting; ++satNum) {
       if (GetParam() && satNum > kLasting / 2) {
         useDirectAddresses();
       }
-      lasting_[satNum] = vcm::AddVcmToMem(recordOf(satNum, 0));
+      lasting_.push_back(vcm::AddVcmToMem(recordOf(satNum, 0)));
+    }
+    for (int i = 0; i < kThreads; ++i) {
+      workers_.emplace_back(i);
     }
   }
-  void TearDown() override { emptyStore(); }
+  void TearDown() override {
+    hosttracesink(nullptr, nullptr);
+    emptyStore();
+  }
 
-  // Adds and removes records of a satellite of its own; updates those that last.
-  void write(int writer) {
-    RandomRecords random(static_cast<std::uint64_t>(writer));
-    std::vector<std::int64_t> keys;
-    for (int step = 0; step < kSteps; ++step) {
-      SCOPED_TRACE("writer " + std::to_string(writer) + " step " + std::to_string(step));
-      const int value = random.integer(0, 999);
-      const int satNum = random.integer(1, kLasting);
-      if (step % 2 == 0 || keys.empty()) {
-        const std::int64_t key = vcm::AddVcmToMem(recordOf(kLasting + 1 + writer, value));
-        EXPECT_NE(key, vcm::kNoKey);
-        if (key != vcm::kDuplicateKey) {
-          keys.push_back(fleeting_ = key);
+  // Of what is logged, the counts that every load ends with.
+  static void hear(std::int32_t /*isError*/, const char* text, std::int32_t length, void* context) {
+    const std::string line(text, static_cast<std::size_t>(length));
+    int total = 0, loaded = 0, dup = 0;
+    if (std::sscanf(line.c_str(), "Total VCMs = %d, Loaded = %d, Dup = %d", &total, &loaded,
+                    &dup) == 3) {
+      EXPECT_TRUE(total == kInFile && loaded + dup == total) << line;
+      static_cast<StoreStress*>(context)->stored_ += loaded;
+    }
+  }
+
+ public:
+  struct Operation {
+    int share;
+    const char* name;
+    void (StoreStress::*run)(Worker&);
+  };
+
+  // All threads, each with the next operation, until the part of all operations is used up.
+  void storm(double part, const std::vector<Operation>& mix) {
+    const auto wanted =
+        static_cast<std::int64_t>(part * randomCount("VCM_STRESS_OPERATIONS", 40'000));
+    const std::jthread watchdog([this](const std::stop_token& stop) { watch(stop); });
+    int shares = 0;
+    std::for_each(mix.begin(), mix.end(), [&](const Operation& one) { shares += one.share; });
+    std::vector<std::jthread> threads;
+    for (Worker& worker : workers_) {
+      threads.emplace_back([&] {
+        while (begun_.fetch_add(1) < wanted) {
+          auto drawn = mix.begin();
+          for (int left = worker.random.integer(0, shares - 1); left >= drawn->share; ++drawn) {
+            left -= drawn->share;
+          }
+          worker.doing = drawn->name;
+          (this->*drawn->run)(worker);
         }
-      } else if (random.integer(0, 1) == 0) {
-        EXPECT_EQ(updateStored(lasting_.at(satNum), recordOf(satNum, value)), vcm::kStored);
-      } else {
-        std::swap(keys[static_cast<std::size_t>(value) % keys.size()], keys.back());
-        EXPECT_EQ(removeStored(keys.back()), vcm::kStored);
-        keys.pop_back();
-      }
-    }
-    left_ += static_cast<std::int32_t>(keys.size());
-  }
-
-  void read(int reader) {
-    RandomRecords random(100 + static_cast<std::uint64_t>(reader));
-    for (int step = 0; step < kSteps; ++step) {
-      const int satNum = random.integer(1, kLasting);
-      const std::int64_t key = lasting_.at(satNum);
-      find(key, true);
-      find(fleeting_, false);
-      EXPECT_EQ(vcm::GetSatKey(satNum), key);
-      if (step % 8 == 0) {
-        list(random.integer(0, 3));
-      }
-    }
-  }
-
-  void list(std::int32_t order) {
-    EXPECT_GE(storedCount(), kLasting);
-    std::vector<std::int64_t> keys(kLasting + kWriters * kSteps);
-    std::int32_t count = 0;
-    if (vcm::listingEntersGate(order)) {
-      vcm::VcmGetTreeKeys(mediaVcm, count, keys.data(), order);
-    } else {
-      const vcm::StoreReading reading;
-      vcm::VcmGetTreeKeys(mediaVcm, count, keys.data(), order);
-      vcm::StoreTree::walkUp(mediaVcm.root, [](const vcm::VcmBinTree& node) {
-        EXPECT_TRUE(isWhole(*vcm::recordOf(node))) << "key " << node.satKey;
+        worker.doing = "nothing more";
       });
     }
-    const auto end = keys.begin() + count;
+  }
+
+  // A gate that never opens is a failed run, not one without end.
+  void watch(const std::stop_token& stop) {
+    std::mutex mutex;
+    std::unique_lock<std::mutex> lock(mutex);
+    std::condition_variable_any never;
+    for (std::int64_t last = -1, now = 0; !stop.stop_requested(); last = now) {
+      now = begun_;
+      if (now == last) {
+        std::cerr << "No operation was finished for a minute. The threads are at";
+        for (const Worker& worker : workers_) {
+          std::cerr << ' ' << worker.doing;
+        }
+        std::cerr << std::endl;
+        std::abort();
+      }
+      never.wait_for(lock, stop, std::chrono::minutes(1), [] { return false; });
+    }
+  }
+
+  void add(Worker& worker) {
+    const VcmRecord record = recordOf(worker.satNum(), worker.random.integer(0, 999));
+    const std::int64_t key = vcm::AddVcmToMem(record);
+    EXPECT_NE(key, vcm::kNoKey);
+    if (key != vcm::kDuplicateKey) {
+      worker.keys.push_back(fleeting_ = key);
+      ++stored_;
+    }
+  }
+
+  void remove(std::int64_t key) {
+    EXPECT_EQ(removeStored(key), vcm::kStored) << "key " << key;
+    --stored_;
+  }
+  void removeOne(Worker& worker) {
+    if (const int count = static_cast<int>(worker.keys.size()); count > 0) {
+      const auto at = static_cast<std::size_t>(worker.random.integer(0, count - 1));
+      std::swap(worker.keys[at], worker.keys.back());
+      remove(worker.keys.back());
+      worker.keys.pop_back();
+    }
+  }
+
+  static std::size_t anyLasting(Worker& worker) {
+    return static_cast<std::size_t>(worker.random.integer(0, kLasting - 1));
+  }
+  void update(Worker& worker) {
+    const std::size_t i = anyLasting(worker);
+    const VcmRecord record = recordOf(static_cast<int>(i) + 1, worker.random.integer(0, 999));
+    EXPECT_EQ(updateStored(lasting_[i], record), vcm::kStored) << i;
+  }
+  void findSatellite(Worker& worker) {
+    const std::size_t i = anyLasting(worker);
+    EXPECT_EQ(vcm::GetSatKey(static_cast<int>(i) + 1), lasting_[i]);
+  }
+
+  // A record that lasts must be there; any record must be whole.
+  void findLasting(Worker& worker) { find(lasting_[anyLasting(worker)], true); }
+  void findFleeting(Worker& /*worker*/) { find(fleeting_, false); }
+  static void find(std::int64_t key, bool lasts) {
+    VcmRecord copy;
+    vcm::VcmFindRec(mediaVcm, key, copy);
+    EXPECT_TRUE(copy.satNum == vcm::kNoSatellite ? !lasts : isWhole(copy)) << "key " << key;
+    const vcm::BorrowedRecord borrowed(mediaVcm, key);
+    EXPECT_TRUE(borrowed ? isWhole(*borrowed) : !lasts) << "key " << key;
+  }
+
+  void list(Worker& worker) {
+    const std::int32_t order = worker.random.integer(0, 3);
+    std::array<std::int64_t, 2000> keys{};  // 0 is the key of none
+    VcmGetLoaded(order, keys.data());
+    const auto end = std::find(keys.begin(), keys.end(), 0);
     std::sort(keys.begin(), end);
     EXPECT_EQ(std::adjacent_find(keys.begin(), end), end) << "order " << order;
-    for (const auto& [satNum, key] : lasting_) {
+    for (const std::int64_t key : lasting_) {
       EXPECT_TRUE(std::binary_search(keys.begin(), end, key)) << "order " << order;
     }
   }
 
-  std::map<int, std::int64_t> lasting_;    // satellite number and key
+  void load(Worker& worker) { EXPECT_EQ(VcmLoadFile(worker.toLoad.path().c_str()), 0); }
+  void unload(Worker& worker) {
+    for (int satNum = worker.firstLoaded(); satNum < worker.firstLoaded() + kInFile; ++satNum) {
+      std::int64_t key = vcm::kNoKey;
+      while ((key = vcm::VcmSatKeyGet(mediaVcm, satNum)) != vcm::kNoKey) {
+        remove(key);
+      }
+    }
+  }
+
+  void save(Worker& worker) {
+    EXPECT_EQ(VcmSaveFile(worker.saved.path().c_str(), 0), 0);
+    const vcm::OpenFile file(std::fopen(worker.saved.path().c_str(), "r"));
+    vcm::CardReader cards(file.get());
+    vcm::SkipLines(cards, static_cast<int>(vcm::kFileHeading.size()));
+    int lasting = 0;
+    while (cards.next()) {
+      const VcmRecord record = vcm::ReadVCMFrFileUnit(cards, vcm::CardType::multiLineHeader);
+      EXPECT_TRUE(isWhole(record)) << record.satNum;
+      lasting += record.satNum <= kLasting ? 1 : 0;
+    }
+    EXPECT_EQ(lasting, kLasting);
+  }
+
+  void empty(Worker& /*worker*/) { EXPECT_EQ(VcmRemoveAllSats(), 0); }
+
+ protected:
+  std::deque<Worker> workers_;
+  std::vector<std::int64_t> lasting_;
   std::atomic<std::int64_t> fleeting_{1};  // the key added last
-  std::atomic<std::int32_t> left_{0};      // of the records added
+  std::atomic<std::int64_t> begun_{0};     // operations
+  std::atomic<std::int32_t> stored_{kLasting};
 };
 
 TEST_P(StoreStress, ReadersSeeWholeRecordsAndEveryChangeCounts) {
-  std::vector<std::thread> threads;
-  for (int i = 0; i < kWriters; ++i) {
-    threads.emplace_back([this, i] { write(i); });
-    threads.emplace_back([this, i] { read(i); });
+  // Removals outweigh adds, so that the store stays small; what takes long comes seldom.
+  storm(0.48, {{180, "add", &StoreStress::add},
+               {200, "remove", &StoreStress::removeOne},
+               {150, "update", &StoreStress::update},
+               {200, "find what lasts", &StoreStress::findLasting},
+               {200, "find what may go", &StoreStress::findFleeting},
+               {30, "find a satellite", &StoreStress::findSatellite},
+               {20, "list", &StoreStress::list},
+               {4, "load", &StoreStress::load},
+               {2, "unload", &StoreStress::unload},
+               {1, "save", &StoreStress::save}});
+  EXPECT_EQ(storedCount(), stored_);
+  for (const Worker& worker : workers_) {
+    for (const std::int64_t key : worker.keys) {
+      VcmRecord record;
+      vcm::VcmFindRec(mediaVcm, key, record);
+      EXPECT_TRUE(record.satNum == worker.satNum() && isWhole(record)) << "key " << key;
+    }
   }
-  for (std::thread& thread : threads) {
-    thread.join();
-  }
-  EXPECT_EQ(storedCount(), kLasting + left_);
 }
 
 TEST_P(StoreStress, EmptyingAmongAddsAndReads) {
-  std::atomic<bool> adding{true};
-  std::thread adder([&] {
-    for (int step = 0; step < kSteps; ++step) {
-      fleeting_ = vcm::AddVcmToMem(recordOf(1 + step % 50, step % 1000));
-      EXPECT_NE(fleeting_, vcm::kNoKey) << "step " << step;
-    }
-    adding = false;
-  });
-  std::thread reader([&] {
-    while (adding) {
-      find(fleeting_, false);
-    }
-  });
-  for (std::int32_t status = vcm::kStored; adding;) {
-    vcm::VcmEmptyTree(mediaVcm, status);
-  }
-  adder.join();
-  reader.join();
+  storm(0.02, {{50, "add", &StoreStress::add},
+               {45, "find", &StoreStress::findFleeting},
+               {4, "load", &StoreStress::load},
+               {1, "empty", &StoreStress::empty}});
   emptyStore();
   EXPECT_EQ(storedCount(), 0);
 }
