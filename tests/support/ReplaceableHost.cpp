@@ -24,6 +24,11 @@ extern "C" std::int64_t createsatkey(const std::int32_t* satNum, const std::int3
               ds50Utc);
 }
 
+extern "C" std::int32_t fileopen(const char* name, const std::int32_t* nameLength,
+                                 const std::int32_t* mode, std::FILE** stream) {
+  return call(hostReplacements().fileopen, "fileopen", name, nameLength, mode, stream);
+}
+
 extern "C" std::int64_t nextsatkey(const std::int64_t* satKey) {
   return call(hostReplacements().nextsatkey, "nextsatkey", satKey);
 }

@@ -14,6 +14,7 @@
 
 struct HostReplacements {
   std::function<decltype(::createsatkey)> createsatkey;
+  std::function<decltype(::fileopen)> fileopen;
   std::function<decltype(::isdma)> isdma;
   std::function<decltype(::nextsatkey)> nextsatkey;
 };

@@ -34,12 +34,6 @@ using KeyReplaced = ReplacedHost<&HostReplacements::createsatkey>;
 
 constexpr std::int64_t kKey = 1001;  // what a replaced host makes for every record
 
-// A text with a key in 19 columns in the place of its #.
-std::string withKey(std::string text, std::int64_t key) {
-  const std::string digits = std::to_string(key);
-  return text.replace(text.find('#'), 1, std::string(19 - digits.size(), ' ') + digits);
-}
-
 Lines duplicates(std::initializer_list<std::int64_t> keys) {
   Lines lines;
   for (const std::int64_t key : keys) {
@@ -116,16 +110,6 @@ TEST_F(Store, SaysThatAKeyIsUnknown) {
   EXPECT_EQ(removeStored(key), vcm::kStored);
 }
 
-TEST_F(Store, RefusesWhatIsInvalidOrHasNoKey) {
-  EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(-1)), vcm::kNoKey);
-  EXPECT_EQ(trace_.takeErrors().size(), 1U);
-  const KeyReplaced replaced([](auto...) { return -1; });
-  EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(5)), vcm::kNoKey);
-  EXPECT_EQ(trace_.takeErrors(), Lines{"AddRecToMem: Unable to make a key for satellite number "
-                                       "        5 and its epoch."});
-  EXPECT_EQ(storedCount(), 0);
-}
-
 TEST_F(Store, RecordsOfOneStateAreDuplicates) {
   const KeyReplaced replaced([](auto...) { return kKey; });
   // clang-format off
@@ -153,28 +137,6 @@ TEST_F(Store, RecordsOfOneStateAreDuplicates) {
   const VcmRecord unlikeItself = satelliteAt(5, std::nan(""));
   EXPECT_EQ(vcm::AddVcmToMem(unlikeItself), key);
   EXPECT_EQ(vcm::AddVcmToMem(unlikeItself), key + 2);
-}
-
-TEST_F(Store, OneKeyServesNinetyNineRecords) {
-  constexpr std::int64_t kStep = 1000;
-  constexpr std::int64_t kLast = kKey + 99 * kStep;
-  std::int64_t first = kKey;
-  const KeyReplaced key([&first](auto...) { return first; });
-  const ReplacedHost<&HostReplacements::nextsatkey> next([](auto last) { return *last + kStep; });
-  for (int i = 0; i < 99; ++i) {
-    ASSERT_EQ(vcm::AddVcmToMem(satelliteAt(5, i)), kKey + i * kStep);
-  }
-  // The hundredth key is tried, but nothing is kept there.
-  EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(6)), 0);
-  EXPECT_EQ(storedCount(), 99);
-  // Where another record has the hundredth, the key moves on once more.
-  first = kLast;
-  EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(6)), kLast);
-  first = kKey;
-  EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(6)), 0);
-  EXPECT_EQ(vcm::AddVcmToMem(satelliteAt(7)), 0);
-  EXPECT_EQ(trace_.takeErrors(), duplicates({kLast, kLast, kLast + kStep}));
-  EXPECT_EQ(storedCount(), 100);
 }
 
 TEST_F(Store, SequenceNumbersOnlyGrow) {
