@@ -186,7 +186,7 @@ TEST_F(HostFaults, ReadsThatFailOrGiveLittle) {
     const TemporaryFile readable(file.content.substr(0, end));
     const auto expected = loaded(readable.path());
     file.limit = end < file.content.size() ? end : SIZE_MAX;
-    for (const std::size_t step : {1, 100'000}) {
+    for (const std::size_t step : {std::size_t{1}, std::size_t{100'000}}) {
       file.step = step;
       file.rewinds = !file.rewinds;
       const OpenReplaced open(openFaulty);

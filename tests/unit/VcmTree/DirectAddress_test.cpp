@@ -129,15 +129,19 @@ TEST_F(DirectAddress, GarbageIsNeverFollowed) {
   DmaObject notOfThePool;
   notOfThePool.self = &notOfThePool;
   notOfThePool.type = vcm::kVcmElsetType;
+  // Inside an object, where it looks as if another began.
+  DmaObject& object = objectOf(vcm::AddVcmToMem(satellite(5)));
+  object.references = {&object.references, reinterpret_cast<void*>(std::intptr_t{5})};
   for (const std::int64_t key : {std::int64_t{0}, std::int64_t{-5}, INT64_MIN}) {
     expectAnswers(key, kInvalid);
   }
   // Dead, never issued, on the stack, freed, and of others.
   for (const std::int64_t key :
        {removed, std::int64_t{10}, std::int64_t{0x7FFFFFFFF000} * 10, INT64_MAX - 1,
-        keyAt(onStack.data()), freed, keyAt(&notOfThePool)}) {
+        keyAt(onStack.data()), freed, keyAt(&notOfThePool), keyAt(&object.references)}) {
     expectAnswers(key, kDead);
   }
+  object.references = {};
 }
 
 TEST_F(DirectAddress, RandomKeysAreNeverFollowed) {
