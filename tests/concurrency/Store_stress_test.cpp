@@ -12,14 +12,11 @@
 #include <thread>
 #include <vector>
 
-#include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmCardReading/MultiLineParser.h"
 #include "VCM/VcmTree/Keys.h"
-#include "VCM/VcmTree/MultiLineWriter.h"
+#include "concurrency/StressWorker.h"
 #include "host/HostTrace.h"
-#include "support/Messages.h"
 #include "support/RandomCount.h"
-#include "support/RandomRecords.h"
 #include "support/StoreAccess.h"
 #include "vcm/Vcm.h"
 
@@ -27,53 +24,6 @@ using vcm::mediaVcm;
 using vcm::VcmRecord;
 
 namespace {
-
-constexpr int kLasting = 20;  // satellites 1 to 20: updated, never removed
-constexpr int kThreads = 4;   // each adds a satellite of its own behind those
-constexpr int kFirstLoaded = kLasting + 1 + kThreads;  // and loads two others of its own
-constexpr int kInFile = 2;
-
-// Every part of a record tells the same value, so that a half-made one shows.
-VcmRecord recordOf(int satNum, int value) {
-  VcmRecord record;
-  record.satNum = satNum;
-  record.epoch = {2024, 1 + value % 300, 0, 0, 0.0};
-  record.eciPos[0] = record.eciVel[0] = record.bTerm = record.covMtx.back() = value;
-  record.covMtxSize = vcm::kCovarianceDimension;
-  record.extraLines.assign(static_cast<std::size_t>(1 + value % 2),
-                           vcm::ExtraLine("MANEUV " + std::to_string(value)));
-  return record;
-}
-
-// What is loaded gets its maneuver cards a little later; what is saved loses them.
-bool isWhole(const VcmRecord& record) {
-  const VcmRecord same = recordOf(record.satNum, static_cast<int>(record.bTerm));
-  return vcm::equal(record, same) && record.covMtx == same.covMtx &&
-         (record.extraLines.empty() || record.extraLines == same.extraLines);
-}
-
-// One of the threads, and what it alone adds and removes.
-struct Worker {
-  explicit Worker(int given) : number(given), random(static_cast<std::uint64_t>(given)) {
-    const vcm::OpenFile file(std::fopen(toLoad.path().c_str(), "w"));
-    vcm::LineOutput output(file.get());
-    for (int i = 0; i < kInFile; ++i) {
-      const VcmRecord record = recordOf(firstLoaded() + i, 10 * number + i);
-      vcm::Vcm2Lines(record, output);
-      for (const vcm::ExtraLine& card : record.extraLines) {
-        output.line(card.view());
-      }
-    }
-  }
-  int satNum() const { return kLasting + 1 + number; }
-  int firstLoaded() const { return kFirstLoaded + kInFile * number; }
-
-  int number;
-  RandomRecords random;
-  std::vector<std::int64_t> keys;
-  TemporaryFile toLoad, saved;
-  std::atomic<const char*> doing{"nothing"};
-};
 
 // With true as parameter, direct addresses beside ordinary keys.
 class StoreStress : public testing::TestWithParam<bool> {
