@@ -8,106 +8,91 @@
 
 namespace {
 
-class ArrayForm : public InterfaceStore {
- protected:
-  static Arrays fromText(const std::string& text, int result = 0) {
-    Arrays arrays;
-    EXPECT_EQ(VcmStringToArray(text.c_str(), arrays.numbers.data(), arrays.texts.data()), result);
-    return arrays;
-  }
-  static std::string oneLine(const Arrays& arrays) {
-    std::string line(VCM_ONE_LINE_LENGTH, '?');
-    EXPECT_EQ(VcmArrayToVcm1Line(arrays.numbers.data(), arrays.texts.data(), line.data()), 0);
-    return line;
-  }
-  static std::string lines(const Arrays& arrays) {
-    std::string area(VCM_TEXT_LENGTH, '?');
-    EXPECT_EQ(VcmArrayToVcmLines(arrays.numbers.data(), arrays.texts.data(), area.data()), 0);
-    return area;
-  }
-};
+class ArrayForm : public InterfaceStore {};
 
 TEST_F(ArrayForm, FromTextAndBack) {
-  const Lines golden = goldenMessage();
-  const Arrays arrays = fromText(joined(golden));
+  Arrays arrays = Arrays::ofText(joined(goldenMessage()));
   EXPECT_TRUE(arrays == Arrays::of(addGolden()));
-  EXPECT_EQ(linesOf(lines(arrays)), golden);  // its common name is blank
-  const std::string one = goldenOneLine();
-  std::string nameless = one;
-  putAt(nameless, 1465, std::string(25, ' '));
-  EXPECT_EQ(oneLine(fromText(one)), nameless);
-
-  EXPECT_TRUE(fromText("no message", 2) == Arrays::zero());
-  EXPECT_TRUE(fromText(joined(Lines(golden.begin(), golden.begin() + 26)), 2) == Arrays::zero());
-  std::string invalid = one;
-  putAt(invalid, 7, "1942");
-  EXPECT_TRUE(fromText(invalid, 2) == Arrays::zero());
-  EXPECT_EQ(trace_.takeErrors(),
-            (Lines{"AnyVcmStrings2Vcm: Invalid concatenated vcm string.",
-                   "AnyVcmStrings2Vcm: Number of vcm records needs to be at least 27.",
-                   " ValidateVcmValues: Invalid Year of Epoch =         1942 (valid >=1956)"}));
-  // Lines outside limits are no failure here.
-  EXPECT_EQ(fromText(joined(withText(golden, 6, 22, "1942"))).numbers[VCM_NUM_EPOCHREV], 5513.0);
-}
-
-TEST_F(ArrayForm, CovarianceAndGap) {
-  Arrays arrays = fromText(joined(goldenMessage()));
-  const auto rows = [&](double size) {
-    arrays.numbers[VCM_NUM_COVMTXSIZE] = size;
-    return linesOf(lines(arrays)).size() - 27;
-  };
-  EXPECT_EQ(rows(0.9), 0U);
-  EXPECT_EQ(rows(-3.0), 0U);
-  EXPECT_EQ(rows(6.7), 5U);
-  EXPECT_EQ(rows(9.0), 9U);
-  EXPECT_EQ(rows(1e9), 9U);
-  EXPECT_EQ(oneLine(arrays).substr(668, 8), "(**x**) ");
-  EXPECT_TRUE(fromText(lines(Arrays::zero())).numbers[VCM_NUM_COVARIANCE] == 0.0);
-  EXPECT_EQ(oneLine(Arrays::zero()).substr(0, 29), "    0 19493650000 0.000     0");
-  const std::string before = lines(arrays);
+  EXPECT_EQ(linesOf(arrays.lines()), goldenMessage());
+  std::string nameless = goldenOneLine();
+  putAt(nameless, 1465, blanks(25));
+  EXPECT_EQ(Arrays::ofText(goldenOneLine()).oneLine(), nameless);
   arrays.texts.replace(8, 25, 25, 'N');
-  EXPECT_EQ(lines(arrays), before);
+  EXPECT_EQ(linesOf(arrays.lines()), goldenMessage()) << "the gap of the characters holds nothing";
 }
 
+TEST_F(ArrayForm, NumbersThatFitNoField) {
+  using Limits = std::numeric_limits<double>;
+  Arrays odd = Arrays::ofText(joined(goldenMessage()));
+  odd[VCM_NUM_SATNUM] = odd[VCM_NUM_EPOCH] = odd[VCM_NUM_ECIPOS] = odd[VCM_NUM_UT1RATE] =
+      Limits::quiet_NaN();
+  odd[VCM_NUM_WTDRMS] = Limits::infinity();
+  odd[VCM_NUM_F10] = 1e300;
+  odd[VCM_NUM_COVMTXSIZE] = 1e9;
+  const std::string line = odd.oneLine();
+  for (const auto& [column, text] :
+       {std::pair(1, "    0    00000000 0.000"), std::pair(137, "             NaN"),
+        std::pair(466, "***"), std::pair(492, "   NaN"), std::pair(669, "(**x**) ************")}) {
+    const std::string expected = text;
+    EXPECT_EQ(line.substr(static_cast<std::size_t>(column - 1), expected.size()), expected);
+  }
+  EXPECT_EQ(Arrays::zero().oneLine().substr(0, 29), "    0 19493650000 0.000     0");
+}
+
+TEST_F(ArrayForm, LineCountFollowsTheCovarianceSize) {
+  Arrays arrays = Arrays::ofText(joined(goldenMessage()));
+  for (const auto& [size, lines] :  // integers are truncated toward zero
+       {std::pair(-1e9, 27U),
+        {-3.0, 27U},
+        {0.9, 27U},
+        {1.0, 28U},
+        {2.0, 28U},
+        {3.0, 29U},
+        {4.0, 29U},
+        {5.0, 30U},
+        {6.7, 32U},
+        {7.0, 33U},
+        {8.0, 35U},
+        {9.0, 36U},
+        {10.0, 36U},
+        {1e9, 36U}}) {
+    arrays[VCM_NUM_COVMTXSIZE] = size;
+    EXPECT_EQ(linesOf(arrays.lines()).size(), lines) << size;
+  }
+}
+
+// Whatever the numbers are, labels stay in their place, and what is written is text.
 TEST_F(ArrayForm, AnyDoubleInAnyPosition) {
   using Limits = std::numeric_limits<double>;
-  const auto isPrintable = [](const std::string& text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+  const Arrays golden = Arrays::ofText(joined(goldenMessage()));
+  const std::string goldenArea = golden.lines();
+  const auto check = [&](const Arrays& arrays, double value, std::size_t position) {
+    const std::string area = arrays.lines(), both = area + arrays.oneLine();
+    EXPECT_TRUE(std::all_of(both.begin(), both.end(), [](char c) { return c >= ' ' && c <= '~'; }))
+        << position << ' ' << value << '\n'
+        << both;
+    for (std::size_t line = 0; line < std::size_t{27} * 80; line += 80) {
+      EXPECT_EQ(area.substr(line, 12), goldenArea.substr(line, 12)) << position << ' ' << value;
+      EXPECT_EQ(area.substr(line + 72, 8), blanks(8)) << position << ' ' << value;
+    }
+    arrays.add();  // under the sanitizers
   };
-  const Arrays golden = fromText(joined(goldenMessage()));
-  for (const double value :
-       {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), Limits::max(), -Limits::max(),
-        Limits::denorm_min(), -0.0, 2147483648.0, -2147483649.0, 1e15}) {
+  for (const double value : {Limits::quiet_NaN(), Limits::infinity(), -Limits::max(),
+                             Limits::denorm_min(), -0.0, 2147483648.0, -2147483649.0, 1e15}) {
+    Arrays all = golden;
     for (std::size_t i = 0; i < VCM_NUM_COVARIANCE + 45; ++i) {
       Arrays arrays = golden;
-      arrays.numbers[i] = value;
-      EXPECT_TRUE(isPrintable(lines(arrays) + oneLine(arrays))) << i << ' ' << value;
+      arrays.numbers[i] = all.numbers[i] = value;
+      check(arrays, value, i);
     }
-    Arrays all = golden;
-    std::fill(all.numbers.begin(), all.numbers.end(), value);
-    EXPECT_TRUE(isPrintable(lines(all) + oneLine(all))) << value;
-    VcmAddSatFrFields(all.texts.data(), all.numbers.data());
+    check(all, value, 999);
   }
-  Arrays odd = golden;
-  odd.numbers[VCM_NUM_SATNUM] = odd.numbers[VCM_NUM_EPOCH] = odd.numbers[VCM_NUM_ECIPOS] =
-      odd.numbers[VCM_NUM_UT1RATE] = Limits::quiet_NaN();
-  odd.numbers[VCM_NUM_WTDRMS] = Limits::infinity();
-  odd.numbers[VCM_NUM_F10] = 1e300;
-  const std::string line = oneLine(odd);
-  EXPECT_EQ(line.substr(0, 23), "    0    00000000 0.000");
-  EXPECT_EQ(line.substr(136, 16), "             NaN");
-  EXPECT_EQ(line.substr(491, 6), "   NaN");
-  EXPECT_EQ(line.substr(676, 12), "************");
-  EXPECT_EQ(line.substr(465, 3), "***");
-
   std::mt19937_64 random(20281121);
-  for (int i = 0; i < 3000; ++i) {
+  for (std::size_t i = 0; i < 3000; ++i) {
     Arrays arrays = golden;
-    for (double& number : arrays.numbers) {
-      number = std::bit_cast<double>(random());
-    }
-    EXPECT_TRUE(isPrintable(lines(arrays) + oneLine(arrays))) << i;
-    VcmAddSatFrFields(arrays.texts.data(), arrays.numbers.data());
+    std::generate(arrays.numbers.begin(), arrays.numbers.end(),
+                  [&] { return std::bit_cast<double>(random()); });
+    check(arrays, arrays[VCM_NUM_SATNUM], i);
   }
 }
 

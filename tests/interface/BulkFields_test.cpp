@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "support/InterfaceStore.h"
@@ -6,74 +7,26 @@ namespace {
 
 class BulkFields : public InterfaceStore {};
 
-// Every output of VcmGetAllFields, in its order; texts between two characters that must stay.
+// Every output of VcmGetAllFields in its order: whole numbers, other numbers, and texts, each with a mark
+// behind it that must stay.
 struct AllFields {
-  template <std::size_t N>
-  struct Text {
-    std::string area = std::string(N + 2, '?');
-    char* data() { return area.data() + 1; }
-    std::string value() const { return area.substr(1, N); }
-    bool kept() const { return area.front() == '?' && area.back() == '?'; }
-  };
-  std::int32_t satNum = -1, epochRev = -1, geoZonals = -1, geoTesserals = -1, f10 = -1, avgF10 = -1,
-               nutationTerms = -1;
-  double bTerm = -1, agom = -1, thrustAccel = -1, cmOffset = -1, avgAp = -1, initStepSize = -1,
-         errorControl = -1, wtdRms = -1;
-  std::array<double, 3> eciPos{-1, -1, -1}, eciVel{-1, -1, -1};
-  std::array<double, 5> timeTerms{-1, -1, -1, -1, -1};
-  Text<8> intlDes, partials;
-  Text<17> epoch, leapSecondTime;
-  Text<6> geoName, integMode, stepSelection;
-  Text<12> dragModel;
-  Text<3> lunarSolar, radPress, earthTides, intrackThrust, fixedStep;
-  Text<4> stepMode;
+  std::array<std::int32_t, 7> whole;
+  std::array<double, 19> real;
+  std::string texts;
 
   int get(std::int64_t key) {
-    return VcmGetAllFields(key, &satNum, intlDes.data(), epoch.data(), &epochRev, eciPos.data(),
-                           eciVel.data(), geoName.data(), &geoZonals, &geoTesserals,
-                           dragModel.data(), lunarSolar.data(), radPress.data(), earthTides.data(),
-                           intrackThrust.data(), &bTerm, &agom, &thrustAccel, &cmOffset, &f10,
-                           &avgF10, &avgAp, timeTerms.data(), &nutationTerms, leapSecondTime.data(),
-                           integMode.data(), partials.data(), stepMode.data(), fixedStep.data(),
-                           stepSelection.data(), &initStepSize, &errorControl, &wtdRms);
-  }
-  std::vector<double> numbers() const {
-    return {double(satNum),
-            double(epochRev),
-            eciPos[0],
-            eciPos[1],
-            eciPos[2],
-            eciVel[0],
-            eciVel[1],
-            eciVel[2],
-            double(geoZonals),
-            double(geoTesserals),
-            bTerm,
-            agom,
-            thrustAccel,
-            cmOffset,
-            double(f10),
-            double(avgF10),
-            avgAp,
-            timeTerms[0],
-            timeTerms[1],
-            timeTerms[2],
-            timeTerms[3],
-            timeTerms[4],
-            double(nutationTerms),
-            initStepSize,
-            errorControl,
-            wtdRms};
-  }
-  std::string texts() const {
-    EXPECT_TRUE(intlDes.kept() && partials.kept() && epoch.kept() && leapSecondTime.kept() &&
-                geoName.kept() && integMode.kept() && stepSelection.kept() && dragModel.kept() &&
-                lunarSolar.kept() && radPress.kept() && earthTides.kept() && intrackThrust.kept() &&
-                fixedStep.kept() && stepMode.kept());
-    return intlDes.value() + epoch.value() + geoName.value() + dragModel.value() +
-           lunarSolar.value() + radPress.value() + earthTides.value() + intrackThrust.value() +
-           leapSecondTime.value() + integMode.value() + partials.value() + stepMode.value() +
-           fixedStep.value() + stepSelection.value();
+    whole.fill(-1);
+    real.fill(-1);
+    texts.assign(99 + 14, '|');
+    std::vector<char*> text = {texts.data()};
+    for (const int width : {8, 17, 6, 12, 3, 3, 3, 3, 17, 6, 8, 4, 3}) {
+      text.push_back(text.back() + width + 1);
+    }
+    return VcmGetAllFields(key, &whole[0], text[0], text[1], &whole[1], &real[0], &real[3], text[2],
+                           &whole[2], &whole[3], text[3], text[4], text[5], text[6], text[7],
+                           &real[6], &real[7], &real[8], &real[9], &whole[4], &whole[5], &real[10],
+                           &real[11], &whole[6], text[8], text[9], text[10], text[11], text[12],
+                           text[13], &real[16], &real[17], &real[18]);
   }
 };
 
@@ -81,58 +34,85 @@ TEST_F(BulkFields, AllFieldsOfAMessageAndOfNone) {
   const std::int64_t key = addGolden();
   AllFields fields;
   EXPECT_EQ(fields.get(key), 0);
-  EXPECT_EQ(fields.texts(),
-            "89021F  2028206120431.384EGM-96JAC70/MSIS90ON ON OFFOFF"
-            "2016366000000.000ASW   ANALYTICTIMEOFFMANUAL");
+  const std::string texts =
+      "89021F  |2028206120431.384|EGM-96|JAC70/MSIS90|ON |ON |OFF|OFF|"
+      "2016366000000.000|ASW   |ANALYTIC|TIME|OFF|MANUAL|";
+  EXPECT_EQ(fields.texts, texts);
   // The numbers are those of the array form.
-  const std::vector<double> arrays = Arrays::of(key).numbers;
-  std::vector<double> expected;
+  Arrays arrays = Arrays::of(key);
+  std::size_t i = 0;
   for (const int position :
-       {VCM_NUM_SATNUM,       VCM_NUM_EPOCHREV,     VCM_NUM_ECIPOS,        VCM_NUM_ECIPOS + 1,
-        VCM_NUM_ECIPOS + 2,   VCM_NUM_ECIVEL,       VCM_NUM_ECIVEL + 1,    VCM_NUM_ECIVEL + 2,
-        VCM_NUM_GEOZONALS,    VCM_NUM_GEOTESSERALS, VCM_NUM_BTERM,         VCM_NUM_AGOM,
-        VCM_NUM_THRUSTACCEL,  VCM_NUM_CMOFFSET,     VCM_NUM_F10,           VCM_NUM_AVGF10,
-        VCM_NUM_AVGAP,        VCM_NUM_TAIMINUSUTC,  VCM_NUM_UT1MINUSUTC,   VCM_NUM_UT1RATE,
-        VCM_NUM_POLARMOTIONX, VCM_NUM_POLARMOTIONY, VCM_NUM_NUTATIONTERMS, VCM_NUM_INITSTEPSIZE,
-        VCM_NUM_ERRORCONTROL, VCM_NUM_WTDRMS}) {
-    expected.push_back(arrays[static_cast<std::size_t>(position)]);
+       {VCM_NUM_SATNUM, VCM_NUM_EPOCHREV, VCM_NUM_GEOZONALS, VCM_NUM_GEOTESSERALS, VCM_NUM_F10,
+        VCM_NUM_AVGF10, VCM_NUM_NUTATIONTERMS}) {
+    EXPECT_EQ(fields.whole.at(i++), arrays[position]) << position;
   }
-  EXPECT_EQ(fields.numbers(), expected);
-  EXPECT_DOUBLE_EQ(fields.timeTerms[VCM_TIME_UT1RATE], 0.308);
-
+  i = 0;
+  for (const int position :
+       {VCM_NUM_ECIPOS, VCM_NUM_ECIPOS + 1, VCM_NUM_ECIPOS + 2, VCM_NUM_ECIVEL, VCM_NUM_ECIVEL + 1,
+        VCM_NUM_ECIVEL + 2, VCM_NUM_BTERM, VCM_NUM_AGOM, VCM_NUM_THRUSTACCEL, VCM_NUM_CMOFFSET,
+        VCM_NUM_AVGAP, VCM_NUM_TAIMINUSUTC, VCM_NUM_UT1MINUSUTC, VCM_NUM_UT1RATE,
+        VCM_NUM_POLARMOTIONX, VCM_NUM_POLARMOTIONY, VCM_NUM_INITSTEPSIZE, VCM_NUM_ERRORCONTROL,
+        VCM_NUM_WTDRMS}) {
+    EXPECT_EQ(fields.real.at(i++), arrays[position]) << position;
+  }
   EXPECT_EQ(fields.get(-1), 2);
-  EXPECT_EQ(fields.numbers(), std::vector<double>(26, 0.0));
-  EXPECT_EQ(fields.texts(), std::string(99, ' '));
-  EXPECT_EQ(trace_.takeErrors(), unknownKey("VcmGetAllFields", "                 -1"));
+  EXPECT_EQ(fields.whole, decltype(fields.whole){});
+  EXPECT_EQ(fields.real, decltype(fields.real){});
+  std::string blank = texts;
+  std::replace_if(
+      blank.begin(), blank.end(), [](char c) { return c != '|'; }, ' ');
+  EXPECT_EQ(fields.texts, blank);
+  EXPECT_EQ(trace_.takeErrors(), Lines{unknownKey("VcmGetAllFields", -1)});
+}
+
+// The golden message, whose positions, texts and signs all differ.
+TEST_F(BulkFields, ArraysOfAMessageAndOfNone) {
+  Arrays arrays = Arrays::of(addGolden());
+  EXPECT_NEAR(arrays[VCM_NUM_EPOCH], 28695.503141018519, 1e-9);
+  EXPECT_DOUBLE_EQ(arrays[VCM_NUM_UT1RATE], 0.308);
+  for (const auto& [position, number] :
+       {std::pair(VCM_NUM_SATNUM, 1.0), std::pair(VCM_NUM_ECIPOS + 2, 6221.00051833),
+        std::pair(VCM_NUM_VELSIGMAS, 0.0001), std::pair(VCM_NUM_COVMTXSIZE, 9.0),
+        std::pair(VCM_NUM_WTDRMS, 1.2828), std::pair(VCM_NUM_WTDRMS + 1, 0.0),
+        std::pair(VCM_NUM_COVARIANCE, -0.10719e-10),
+        std::pair(VCM_NUM_COVARIANCE + 44, -0.47250e-12)}) {
+    EXPECT_EQ(arrays[position], number) << position;
+  }
+  EXPECT_EQ(arrays.texts.substr(0, VCM_CHAR_GEONAME), "89021F  " + blanks(25));
+  EXPECT_EQ(arrays.texts.substr(VCM_CHAR_GEONAME, 62),
+            "EGM-96JAC70/MSIS90ON ON OFFOFFASW   J2000ANALYTICTIMEOFFMANUAL");
+  Arrays none = Arrays::of(123, 2);
+  EXPECT_EQ(none.texts, Arrays::zero().texts);
+  EXPECT_EQ(none.numbers, Arrays().numbers) << "as they were";
+  EXPECT_EQ(trace_.takeErrors(), Lines{unknownKey("GetSatToFields", 123)});
 }
 
 TEST_F(BulkFields, UpdateReplacesAllButNumberAndEpoch) {
-  // From a one-line message, which has a common name.
-  const std::int64_t key = VcmAddSatFrLines(goldenOneLine().c_str());
+  const std::int64_t key = addGolden();
   Arrays arrays = Arrays::of(key);
-  const double epoch = arrays.numbers[VCM_NUM_EPOCH];
-  arrays.numbers[VCM_NUM_SATNUM] = 99.0;
-  arrays.numbers[VCM_NUM_EPOCH] += 1000.0;
-  arrays.numbers[VCM_NUM_BTERM] = 0.5;
-  arrays.numbers[VCM_NUM_ECIPOS] = 1e300;  // new values are not held against limits
-  arrays.numbers[VCM_NUM_COVMTXSIZE] = 0.9;
+  Arrays expected = arrays;
+  arrays[VCM_NUM_SATNUM] = 99.0;
+  arrays[VCM_NUM_EPOCH] += 1000.0;
+  arrays[VCM_NUM_BTERM] = expected[VCM_NUM_BTERM] = 0.5;
+  arrays[VCM_NUM_ECIPOS] = expected[VCM_NUM_ECIPOS] = 1e300;  // not held against limits
+  arrays[VCM_NUM_COVMTXSIZE] = 0.9;
+  std::fill(expected.numbers.begin() + VCM_NUM_COVARIANCE, expected.numbers.end(), 0.0);
+  expected[VCM_NUM_COVMTXSIZE] = 0.0;
   arrays.texts.replace(VCM_CHAR_DRAGMODEL, 12, "NEW\tMODEL   ");
-  EXPECT_EQ(VcmUpdateSatFrFields(key, arrays.texts.data(), arrays.numbers.data()), 0);
-  Arrays updated = Arrays::of(key);
-  EXPECT_EQ(updated.texts.substr(VCM_CHAR_DRAGMODEL, 12), "NEW MODEL   ");
-  for (const auto& [position, number] :
-       {std::pair(VCM_NUM_SATNUM, 1.0), std::pair(VCM_NUM_EPOCH, epoch),
-        std::pair(VCM_NUM_BTERM, 0.5), std::pair(VCM_NUM_ECIPOS, 1e300),
-        std::pair(VCM_NUM_COVMTXSIZE, 0.0), std::pair(VCM_NUM_COVARIANCE, 0.0)}) {
-    EXPECT_EQ(updated.numbers[static_cast<std::size_t>(position)], number) << position;
-  }
+  expected.texts.replace(VCM_CHAR_DRAGMODEL, 12, "NEW MODEL   ");
+  const auto update = [&arrays](std::int64_t satKey) {
+    return VcmUpdateSatFrFields(satKey, arrays.texts.data(), arrays.numbers.data());
+  };
+  EXPECT_EQ(update(key), 0);
+  EXPECT_TRUE(Arrays::of(key) == expected);
   // The message that is stored now breaks a limit, and so cannot be updated any more.
-  EXPECT_EQ(VcmUpdateSatFrFields(key, updated.texts.data(), Arrays::zero().numbers.data()), 2);
+  arrays[VCM_NUM_BTERM] = 0.25;
+  EXPECT_EQ(update(key), 2);
   EXPECT_EQ(trace_.takeErrors(),
             Lines{" ValidateVcmValues: Invalid ECI PosX = 1e+300 (valid -1E7 to 1E7)"});
-  EXPECT_TRUE(Arrays::of(key) == updated);
-  EXPECT_EQ(VcmUpdateSatFrFields(5, updated.texts.data(), updated.numbers.data()), 2);
-  EXPECT_EQ(trace_.takeErrors(), unknownKey("VcmUpdateSatFrFields", "                  5"));
+  EXPECT_TRUE(Arrays::of(key) == expected);
+  EXPECT_EQ(update(5), 2);
+  EXPECT_EQ(trace_.takeErrors(), Lines{unknownKey("VcmUpdateSatFrFields", 5)});
 }
 
 }  // namespace

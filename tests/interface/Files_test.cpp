@@ -1,26 +1,16 @@
-#include <gtest/gtest.h>
-
 #include <cerrno>
-#include <sstream>
 
-#include "support/Messages.h"
-#include "support/TraceCapture.h"
-#include "vcm/Vcm.h"
+#include "support/InterfaceStore.h"
 
 namespace {
 
-class Files : public ::testing::Test {
+class Files : public InterfaceStore {
  protected:
-  void SetUp() override { VcmRemoveAllSats(); }
-  void TearDown() override { VcmRemoveAllSats(); }
-
   static std::string saved(std::int32_t mode = 0) {
     const TemporaryFile file("before\n");
     EXPECT_EQ(VcmSaveFile(file.path().c_str(), mode), 0);
     return readFile(file.path());
   }
-
-  TraceCapture trace_;
 };
 
 const std::string kCatalogue = VCM_SAMPLES_DIR "/catalogue.vcm";
@@ -33,21 +23,6 @@ TEST_F(Files, CatalogueComesBackByteForByte) {
                    "Total VCMs = 300, Loaded = 300, Dup = 0, Bad = 0"}));
   EXPECT_TRUE(saved() == readFile(kCatalogue));
   EXPECT_EQ(trace_.takeErrors(), Lines{});
-}
-
-TEST_F(Files, OneLineCatalogueDiffersInTheLeapSecondsThatItDoesNotCarry) {
-  ASSERT_EQ(VcmLoadFile(VCM_SAMPLES_DIR "/catalogue.one"), 0);
-  std::istringstream one(saved()), multi(readFile(kCatalogue));
-  int differing = 0;
-  for (std::string line, expected; std::getline(multi, expected);) {
-    ASSERT_TRUE(std::getline(one, line));
-    if (line != expected) {
-      EXPECT_EQ(line, "<> TIME CONST LEAP SECOND TIME (UTC): 2049 365 (31 DEC) 23:59:59.999");
-      ++differing;
-    }
-  }
-  EXPECT_EQ(one.peek(), EOF);
-  EXPECT_EQ(differing, 95);  // messages with a leap-second time that is known
 }
 
 TEST_F(Files, SaveModes) {

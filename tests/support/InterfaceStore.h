@@ -14,20 +14,31 @@
 // Starts and ends each test with an empty store, and keeps the trace.
 class InterfaceStore : public ::testing::Test {
  protected:
-  void SetUp() override { VcmRemoveAllSats(); }
-  void TearDown() override { VcmRemoveAllSats(); }
+  InterfaceStore() { VcmRemoveAllSats(); }
+  ~InterfaceStore() override { VcmRemoveAllSats(); }
 
   // The golden message, stored.
   static std::int64_t addGolden() { return VcmAddSatFrLines(joined(goldenMessage()).c_str()); }
 
-  static std::string field(std::int64_t key, std::int32_t index) {
-    std::string value(VCM_FIELD_VALUE_LENGTH, '?');
-    EXPECT_EQ(VcmGetField(key, index, value.data()), 0);
-    return value.erase(value.find_last_not_of(' ') + 1);
-  }
-
   TraceCapture trace_;
 };
+
+// What a function writes into an area of that size, which is its last argument; it gives `result`.
+template <auto Function, std::size_t Size, class... Given>
+std::string written(int result, Given... given) {
+  std::string area(Size, '?');
+  EXPECT_EQ(Function(given..., area.data()), result);
+  return area;
+}
+
+inline std::string field(std::int64_t key, std::int32_t index) {
+  std::string value = written<VcmGetField, VCM_FIELD_VALUE_LENGTH>(0, key, index);
+  return value.erase(value.find_last_not_of(' ') + 1);
+}
+
+inline std::string toOneLine(const std::string& text, int result = 0) {
+  return written<VcmMultiLineTo1Line, VCM_ONE_LINE_LENGTH>(result, text.c_str());
+}
 
 // An area of lines of 80 characters as lines, without blanks at their ends and empty lines at its end.
 inline Lines linesOf(const std::string& area) {
@@ -42,32 +53,44 @@ inline Lines linesOf(const std::string& area) {
   return lines;
 }
 
-// Lines as an area: each padded to 80 characters.
-inline std::string areaOf(const Lines& lines) {
-  std::string area;
-  for (const std::string& line : lines) {
-    area.append(line).append(80 - line.size(), ' ');
-  }
-  return area;
+inline std::string blanks(std::size_t count) { return std::string(count, ' '); }
+
+// A key as messages show it: in 19 columns.
+inline std::string shown(std::int64_t key) {
+  const std::string digits = std::to_string(key);
+  return blanks(19 - digits.size()) + digits;
 }
 
 // What every function says of a key that is not stored.
-inline Lines unknownKey(const std::string& function, const std::string& key19) {
-  return {function + ": Unable to locate satKey " + key19 + " in the VCM binary tree."};
+inline std::string unknownKey(const std::string& function, std::int64_t key) {
+  return function + ": Unable to locate satKey " + shown(key) + " in the VCM binary tree.";
 }
 
 struct Arrays {
   std::vector<double> numbers = std::vector<double>(VCM_NUM_ARRAY_LENGTH, 4711.0);
   std::string texts = std::string(VCM_CHAR_ARRAY_LENGTH, '?');
 
-  static Arrays of(std::int64_t key) {
+  static Arrays of(std::int64_t key, int result = 0) {
     Arrays arrays;
-    EXPECT_EQ(VcmRetrieveAllData(key, arrays.texts.data(), arrays.numbers.data()), 0);
+    EXPECT_EQ(VcmRetrieveAllData(key, arrays.texts.data(), arrays.numbers.data()), result);
+    return arrays;
+  }
+  static Arrays ofText(const std::string& text, int result = 0) {
+    Arrays arrays;
+    EXPECT_EQ(VcmStringToArray(text.c_str(), arrays.numbers.data(), arrays.texts.data()), result);
     return arrays;
   }
   static Arrays zero() {
-    return {std::vector<double>(VCM_NUM_ARRAY_LENGTH), std::string(VCM_CHAR_ARRAY_LENGTH, ' ')};
+    return {std::vector<double>(VCM_NUM_ARRAY_LENGTH), blanks(VCM_CHAR_ARRAY_LENGTH)};
   }
+  std::int64_t add() const { return VcmAddSatFrFields(texts.data(), numbers.data()); }
+  std::string oneLine() const {
+    return written<VcmArrayToVcm1Line, VCM_ONE_LINE_LENGTH>(0, numbers.data(), texts.data());
+  }
+  std::string lines() const {
+    return written<VcmArrayToVcmLines, VCM_TEXT_LENGTH>(0, numbers.data(), texts.data());
+  }
+  double& operator[](int position) { return numbers[static_cast<std::size_t>(position)]; }
   bool operator==(const Arrays&) const = default;
 };
 
