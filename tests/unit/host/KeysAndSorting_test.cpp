@@ -79,22 +79,6 @@ TEST(Quicksort, NoInputMakesItQuadratic) {
   EXPECT_LT(comparisons, 4 * kCount) << "equal elements";
 }
 
-TEST(TriangularMatrix, LowerTriangleRowByRow) {
-  using Values = std::vector<double>;
-  // Unsymmetric, so that a mix-up of the triangles shows.
-  const Values squares[] = {{}, {11}, {11, 21, 12, 22}, {11, 21, 31, 12, 22, 32, 13, 23, 33}};
-  const Values symmetric[] = {{}, {11}, {11, 21, 21, 22}, {11, 21, 31, 21, 22, 32, 31, 32, 33}};
-  const Values largest{11, 21, 22, 31, 32, 33};
-  for (std::int32_t size = 0; size <= 3; ++size) {
-    const auto i = static_cast<Size>(size);
-    Values packed(i * (i + 1) / 2), square(i * i);
-    sqrmtx2lta(squares[i].data(), &size, packed.data());
-    EXPECT_TRUE(std::equal(packed.begin(), packed.end(), largest.begin())) << size;
-    lta2sqrmtx(packed.data(), &size, square.data());
-    EXPECT_EQ(square, symmetric[i]) << size;
-  }
-}
-
 // In a process of its own, where nothing has switched direct addresses on before.
 TEST(KeyModesDeathTest, ModesAreKeptApartAndAddressesKnownFromTheFirstSwitchOn) {
   testing::FLAGS_gtest_death_test_style = "threadsafe";
