@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <sstream>
 #include <thread>
 
 #include "VCM/VcmCardReading/InputFile.h"
@@ -17,8 +16,7 @@ namespace {
 
 const std::string kGolden = joined(goldenMessage());
 
-// The golden message with its ECI label broken.
-Lines broken() { return withText(goldenMessage(), 9, 4, "#"); }
+const std::string kBroken = joined(withText(goldenMessage(), 9, 4, "#"));
 
 std::string numbered(int satNum) {
   return joined(withText(goldenMessage(), 4, 26, std::to_string(satNum)));
@@ -58,15 +56,14 @@ TEST_F(InputFileReader, CountsWhatItFinds) {
   putAt(invalidOneLine, 7, "1942");
   // clang-format off
   const std::pair<std::string, std::string> rows[] = {
-
       {"", counts(0, 0, 0)}, {"* comment\n\n   \n*\n", counts(0, 0, 0)},
       {"any text\n" + kGolden + "more text", counts(1, 0, 0)}, {kGolden + kGolden, counts(1, 1, 0)},
       {joined(goldenMessage(), "\r\n"), counts(1, 0, 0)}, {kGolden.substr(0, kGolden.size() - 1), counts(1, 0, 0)},
       {goldenOneLine() + std::string(5'000'000, 'x') + "\n", counts(1, 0, 0)},
       {joined(bareForm(goldenMessage())), counts(1, 0, 0)}, {goldenOneLine() + "\n" + kGolden, counts(1, 1, 0)},
-      {joined(broken()) + kGolden, counts(1, 0, 1)},
+      {kBroken + kGolden, counts(1, 0, 1)},
       {joined(cut) + kGolden, counts(0, 0, 1)},  // a header in the place of a label is used up
-      {joined(cut), counts(0, 0, 1)}, {joined(withText(goldenMessage(), 6, 22, "1942")), counts(0, 0, 0)},  // counted nowhere
+      {joined(withText(goldenMessage(), 6, 22, "1942")), counts(0, 0, 0)},  // counted nowhere
       {invalidOneLine, counts(0, 0, 1)}, {zeroByte, counts(1, 0, 0)},
   };
   // clang-format on
@@ -76,39 +73,31 @@ TEST_F(InputFileReader, CountsWhatItFinds) {
   }
 }
 
-// A file of two messages that ends anywhere in the second: nothing but that one is lost.
-TEST_F(InputFileReader, TruncatedFiles) {
-  const std::string whole = numbered(3) + numbered(7);
-  for (std::size_t length = whole.size() / 2; length <= whole.size(); length += 3) {
-    emptyStore();
-    const TemporaryFile file(whole.substr(0, length));
-    ASSERT_EQ(vcm::ReadVcmsFrFile(file.path()), 0) << length;
-    ASSERT_TRUE(record(3).satNum == 3 && storedCount() <= 2) << length;
-  }
-}
-
 TEST_F(InputFileReader, ManeuverCards) {
-  const auto maneuver = [](int n) { return " maneuver card " + std::to_string(n) + "\n"; };
-  std::string content = numbered(1) + maneuver(1) + maneuver(2);  // for 1
-  content += numbered(2) + numbered(1) + maneuver(3);             // behind a duplicate: they wait
-  content += joined(broken()) + maneuver(4);                      // behind a bad one, too
-  content += numbered(3) + maneuver(5) + numbered(4);             // all of them are for 3
-  for (int i = 0; i < 120; ++i) {
-    content += maneuver(i);  // no more than a hundred, at the end of the file
-  }
-  read(content, counts(4, 1, 1));
-  const auto cards = [](std::int32_t satNum) {
-    std::string numbers;
-    for (const vcm::ExtraLine& line : record(satNum).extraLines) {
-      EXPECT_EQ(line.view().substr(0, 15), " maneuver card ");
-      numbers += vcm::withoutTrailingBlanks(line.view().substr(15));
+  const auto cards = [](std::initializer_list<int> numbers) {
+    Lines lines;
+    for (const int number : numbers) {
+      lines.push_back(" maneuver card " + std::to_string(number));
     }
-    return numbers;
+    return lines;
   };
-  EXPECT_EQ(cards(1), "12");
-  EXPECT_EQ(cards(2), "");
-  EXPECT_EQ(cards(3), "345");
-  EXPECT_EQ(record(4).extraLineCount(), 100);
+  std::string content = numbered(1) + joined(cards({1, 2}));  // for 1
+  content += numbered(2) + numbered(1) + joined(cards({3}));  // behind a duplicate: they wait
+  content += kBroken + joined(cards({4}));                    // behind a bad one, too
+  content += numbered(3) + joined(cards({5})) + numbered(4);  // all of them are for 3
+  content += joined(Lines(120, " maneuver card"));            // no more than a hundred
+  read(content, counts(4, 1, 1));
+  const auto kept = [](std::int32_t satNum) {
+    Lines lines;
+    for (const vcm::ExtraLine& line : record(satNum).extraLines) {
+      lines.emplace_back(vcm::withoutTrailingBlanks(line.view()));
+    }
+    return lines;
+  };
+  EXPECT_EQ(kept(1), cards({1, 2}));
+  EXPECT_EQ(kept(2), Lines{});
+  EXPECT_EQ(kept(3), cards({3, 4, 5}));
+  EXPECT_EQ(kept(4), Lines(100, " maneuver card"));
 }
 
 TEST_F(InputFileReader, DirectivesComeFirst) {
@@ -126,11 +115,8 @@ TEST_F(InputFileReader, DirectivesComeFirst) {
   EXPECT_EQ(keys, (std::array{keyOf(2), keyOf(3), keyOf(1)}));
 }
 
-TEST_F(InputFileReader, OpenFailures) {
-  EXPECT_EQ(vcm::ReadVcmsFrFile("/nowhere/at/all"), ENOENT);
-  EXPECT_EQ(vcm::ReadVcmsFrFile("/tmp"), EISDIR);
+TEST_F(InputFileReader, ADirectiveThatNamesNoFileEndsTheLoad) {
   const TemporaryFile main(numbered(1) + "VCMFIL /nowhere/at/all\n");
-  EXPECT_EQ(trace_.takeErrors(), Lines{});
   EXPECT_EQ(vcm::ReadVcmsFrFile(main.path()), ENOENT);
   EXPECT_EQ(trace_.takeErrors(), Lines{"ReadVcmsFrFileUnit: Unable to open file "
                                        "\"/nowhere/at/all\", which a directive card names."});
@@ -161,30 +147,6 @@ TEST_F(InputFileReader, KeyModeCardTakesEffectBeforeTheFirstMessage) {
   read(numbered(1) + numbered(1) + "  qz_dma_on\n" + numbered(2) + "MANEUVER 1\n", counts(3, 0, 0));
   EXPECT_TRUE(vcm::isDirectAddress(vcm::VcmSatKeyGet(vcm::mediaVcm, 1)));
   EXPECT_EQ(record(2).extraLineCount(), 1);
-}
-
-struct Notes : vcm::ReadingObserver {
-  std::ostringstream text;
-  void file(std::string_view /*name*/) override { text << "file"; }
-  void message(std::int64_t line) override { text << ", message @" << line; }
-  void unreadable(std::int64_t line, std::string_view name) override {
-    text << ", " << name << " @" << line;
-  }
-  void outcome(std::int64_t line, vcm::MessageOutcome outcome) override {
-    text << ", outcome " << static_cast<int>(outcome) << " @" << line;
-  }
-};
-
-TEST_F(InputFileReader, ObserverHearsOfEveryMessage) {
-  std::string one = goldenOneLine();
-  putAt(one, 50, "  x");
-  const TemporaryFile file("* comment\n" + joined(withText(goldenMessage(), 7, 37, "x")) +
-                           joined(broken()) + one + "\n");
-  Notes notes;
-  ASSERT_EQ(vcm::ReadVcmsFrFile(file.path(), &notes), 0);
-  EXPECT_EQ(notes.text.str(),
-            "file, message @2, j2kPos y @8, outcome 0 @37, message @38, outcome 2 @46, "
-            "message @74, j2kPos y @74, outcome 1 @74");
 }
 
 }  // namespace
