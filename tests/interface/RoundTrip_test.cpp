@@ -12,45 +12,27 @@ namespace {
 // A stretch of the number array: what it holds, and how well a field of either form keeps it.
 struct Stretch {
   int first, count;
-  double low, high;
-  int decimals;  // of a fixed field; whole numbers have 0
-  int digits;    // of a scientific field, instead
+  double low, high;  // of a scientific field, those of the exponent
+  int decimals;      // of a fixed field; whole numbers have 0
+  int digits;        // of a scientific field, instead
 };
 
-constexpr Stretch fixedPoint(int first, int count, double low, double high, int decimals) {
-  return {first, count, low, high, decimals, 0};
-}
-constexpr Stretch scientific(int first, int digits, int count = 1) {
-  return {first, count, -90.0, 90.0, 0, digits};  // the exponents
-}
-
+// clang-format off
 constexpr Stretch kStretches[] = {
-    fixedPoint(VCM_NUM_SATNUM, 1, 0, 99999, 0),
-    fixedPoint(VCM_NUM_EPOCHREV, 1, 0, 99999, 0),
-    fixedPoint(VCM_NUM_J2KPOS, 3, -999999, 9999999, 8),
-    fixedPoint(VCM_NUM_J2KVEL, 3, -99, 999, 12),
-    fixedPoint(VCM_NUM_ECIPOS, 3, -999999, 9999999, 8),
-    fixedPoint(VCM_NUM_ECIVEL, 3, -99, 999, 12),
-    fixedPoint(VCM_NUM_EFGPOS, 3, -999999, 9999999, 8),
-    fixedPoint(VCM_NUM_EFGVEL, 3, -99, 999, 12),
-    fixedPoint(VCM_NUM_GEOZONALS, 2, -9, 99, 0),  // and tesserals
-    scientific(VCM_NUM_BTERM, 6, 3),              // to agom
-    scientific(VCM_NUM_EDR, 2),
-    scientific(VCM_NUM_THRUSTACCEL, 6, 2),    // and centre-of-mass offset
-    fixedPoint(VCM_NUM_F10, 2, -99, 999, 0),  // and its average
-    fixedPoint(VCM_NUM_AVGAP, 1, -99, 999, 1),
-    fixedPoint(VCM_NUM_TAIMINUSUTC, 1, -99, 999, 0),
-    fixedPoint(VCM_NUM_UT1MINUSUTC, 1, -9, 99, 5),
-    fixedPoint(VCM_NUM_UT1RATE, 1, -9, 99, 3),
-    fixedPoint(VCM_NUM_POLARMOTIONX, 2, -9, 99, 4),
-    fixedPoint(VCM_NUM_NUTATIONTERMS, 1, -99, 999, 0),
-    fixedPoint(VCM_NUM_INITSTEPSIZE, 1, -999, 9999, 3),
-    scientific(VCM_NUM_ERRORCONTROL, 3),
-    fixedPoint(VCM_NUM_POSSIGMAS, 3, -9999, 99999, 4),
-    fixedPoint(VCM_NUM_VELSIGMAS, 3, -99, 999, 4),
-    scientific(VCM_NUM_WTDRMS, 5),
-    scientific(VCM_NUM_COVARIANCE, 5, 45),
-};
+    {VCM_NUM_SATNUM, 1, 0, 99999, 0, 0},                   {VCM_NUM_EPOCHREV, 1, 0, 99999, 0, 0},
+    {VCM_NUM_J2KPOS, 3, -999999, 9999999, 8, 0},           {VCM_NUM_J2KVEL, 3, -99, 999, 12, 0},
+    {VCM_NUM_ECIPOS, 3, -999999, 9999999, 8, 0},           {VCM_NUM_ECIVEL, 3, -99, 999, 12, 0},
+    {VCM_NUM_EFGPOS, 3, -999999, 9999999, 8, 0},           {VCM_NUM_EFGVEL, 3, -99, 999, 12, 0},
+    {VCM_NUM_GEOZONALS, 2, -9, 99, 0, 0},                  {VCM_NUM_BTERM, 3, -90, 90, 0, 6},
+    {VCM_NUM_EDR, 1, -90, 90, 0, 2},                       {VCM_NUM_THRUSTACCEL, 2, -90, 90, 0, 6},
+    {VCM_NUM_F10, 2, -99, 999, 0, 0},                      {VCM_NUM_AVGAP, 1, -99, 999, 1, 0},
+    {VCM_NUM_TAIMINUSUTC, 1, -99, 999, 0, 0},              {VCM_NUM_UT1MINUSUTC, 1, -9, 99, 5, 0},
+    {VCM_NUM_UT1RATE, 1, -9, 99, 3, 0},                    {VCM_NUM_POLARMOTIONX, 2, -9, 99, 4, 0},
+    {VCM_NUM_NUTATIONTERMS, 1, -99, 999, 0, 0},            {VCM_NUM_INITSTEPSIZE, 1, -999, 9999, 3, 0},
+    {VCM_NUM_ERRORCONTROL, 1, -90, 90, 0, 3},              {VCM_NUM_POSSIGMAS, 3, -9999, 99999, 4, 0},
+    {VCM_NUM_VELSIGMAS, 3, -99, 999, 4, 0},                {VCM_NUM_WTDRMS, 1, -90, 90, 0, 5},
+    {VCM_NUM_COVARIANCE, 45, -90, 90, 0, 5}};
+// clang-format on
 
 constexpr double kDaysPerMillisecond = 1.0 / 86400e3;
 

@@ -36,11 +36,9 @@ TEST_F(TextConversions, TheCatalogueInBothForms) {
 }
 
 TEST_F(TextConversions, WhatHasNoPlaceInTheOtherForm) {
-  const Lines golden = goldenMessage();
-  EXPECT_EQ(toOneLine(joined(withText(golden, 4, 22, "123456789"))).substr(0, 10), "***** 2028");
-  EXPECT_EQ(toOneLine(joined(withText(golden, 19, 16, "-.5"))).substr(478, 3), "  0");
   // Values past the covariance's dimension are written all the same, as zeros.
-  Lines small(golden.begin(), golden.begin() + 28);
+  Lines small = goldenMessage();
+  small.resize(28);
   putAt(small[26], 42, " 1");
   const std::string line = toOneLine(joined(small));
   EXPECT_EQ(line.substr(668, 8), "( 1x 1) ");

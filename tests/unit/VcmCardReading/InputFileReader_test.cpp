@@ -1,12 +1,9 @@
 #include "VCM/VcmCardReading/InputFileReader.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cerrno>
-#include <thread>
 
-#include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmTree/Keys.h"
 #include "support/Messages.h"
 #include "support/StoreAccess.h"
@@ -122,24 +119,6 @@ TEST_F(InputFileReader, ADirectiveThatNamesNoFileEndsTheLoad) {
                                        "\"/nowhere/at/all\", which a directive card names."});
   EXPECT_EQ(storedCount(), 0) << "nothing of the file is loaded";
   EXPECT_EQ(trace_.takeInfos(), Lines{}) << "and no counts are given";
-}
-
-// A pipe cannot be rewound, and yet both passes see all of it.
-TEST_F(InputFileReader, PipesAreReadTwice) {
-  const TemporaryFile named(numbered(2));
-  int ends[2];
-  ASSERT_EQ(pipe(ends), 0);
-  std::thread writer([&] {
-    const vcm::OpenFile stream(fdopen(ends[1], "wb"));
-    for (int i = 0; i < 1000; ++i) {
-      std::fputs(numbered(1).c_str(), stream.get());
-    }
-    std::fputs(("VCMFIL " + named.path()).c_str(), stream.get());
-  });
-  EXPECT_EQ(vcm::ReadVcmsFrFile("/dev/fd/" + std::to_string(ends[0])), 0);
-  writer.join();
-  close(ends[0]);
-  EXPECT_EQ(trace_.takeInfos(), Lines{counts(2, 999, 0)});
 }
 
 TEST_F(InputFileReader, KeyModeCardTakesEffectBeforeTheFirstMessage) {
