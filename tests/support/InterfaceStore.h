@@ -14,8 +14,8 @@
 // Starts and ends each test with an empty store, and keeps the trace.
 class InterfaceStore : public ::testing::Test {
  protected:
-  InterfaceStore() { VcmRemoveAllSats(); }
-  ~InterfaceStore() override { VcmRemoveAllSats(); }
+  void SetUp() override { VcmRemoveAllSats(); }
+  void TearDown() override { VcmRemoveAllSats(); }
 
   // The golden message, stored.
   static std::int64_t addGolden() { return VcmAddSatFrLines(joined(goldenMessage()).c_str()); }

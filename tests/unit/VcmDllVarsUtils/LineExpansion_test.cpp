@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <sstream>
 
 #include "support/Messages.h"
@@ -10,7 +12,9 @@ namespace {
 
 Lines expanded(const std::string& input) {
   const TemporaryFile in(input), out("what was there before");
-  EXPECT_EQ(vcm::Vcm1LineToMany(in.path() + "   ", out.path()), 0);
+  std::string backslashed = out.path();
+  std::replace(backslashed.begin(), backslashed.end(), '/', '\\');
+  EXPECT_EQ(vcm::Vcm1LineToMany(in.path() + "   ", backslashed), 0);
   std::istringstream text(readFile(out.path()));
   Lines lines;
   for (std::string line; std::getline(text, line);) {
@@ -80,6 +84,13 @@ TEST(LineExpansion, DatesAndCovarianceRows) {
   std::string full = goldenOneLine();
   putAt(full, 1274, std::string(227, '7'));
   EXPECT_EQ(expanded(full).size(), 27U + 12U);
+}
+
+TEST(LineExpansion, Failures) {
+  const TemporaryFile in(goldenOneLine());
+  EXPECT_EQ(vcm::Vcm1LineToMany("/nowhere/at/all", "/nowhere/else"), ENOENT);
+  EXPECT_EQ(vcm::Vcm1LineToMany(in.path(), "/tmp"), EISDIR);
+  EXPECT_EQ(vcm::Vcm1LineToMany(in.path(), "/dev/full"), ENOSPC);
 }
 
 }  // namespace
