@@ -10,7 +10,11 @@ class BulkFields : public InterfaceStore {
   // The golden message, but that neighbours differ.
   static std::int64_t addUnlike() {
     const std::int64_t key = addGolden();
-    EXPECT_EQ(VcmSetField(key, VCM_FIELD_GEOTESSERALS, "69"), 0);
+    for (const auto& [index, value] :
+         {std::pair(VCM_FIELD_GEOTESSERALS, "69"), std::pair(VCM_FIELD_RADPRESS, "AUS"),
+          std::pair(VCM_FIELD_INTRACKTHRUST, "NO")}) {
+      EXPECT_EQ(VcmSetField(key, index, value), 0);
+    }
     return key;
   }
 };
@@ -43,7 +47,7 @@ TEST_F(BulkFields, AllFieldsOfAMessageAndOfNone) {
   AllFields fields;
   EXPECT_EQ(fields.get(key), 0);
   const std::string texts =
-      "89021F  |2028206120431.384|EGM-96|JAC70/MSIS90|ON |ON |OFF|OFF|"
+      "89021F  |2028206120431.384|EGM-96|JAC70/MSIS90|ON |AUS|OFF|NO |"
       "2016366000000.000|ASW   |ANALYTIC|TIME|OFF|MANUAL|";
   EXPECT_EQ(fields.texts, texts);
   // The numbers are those of the array form.
@@ -91,7 +95,7 @@ TEST_F(BulkFields, ArraysOfAMessageAndOfNone) {
   EXPECT_EQ(arrays[VCM_NUM_COVARIANCE + 44], -0.47250e-12);
   EXPECT_EQ(arrays.texts.substr(0, VCM_CHAR_GEONAME), "89021F  " + blanks(25));
   EXPECT_EQ(arrays.texts.substr(VCM_CHAR_GEONAME, 62),
-            "EGM-96JAC70/MSIS90ON ON OFFOFFASW   J2000ANALYTICTIMEOFFMANUAL");
+            "EGM-96JAC70/MSIS90ON AUSOFFNO ASW   J2000ANALYTICTIMEOFFMANUAL");
   Arrays none = Arrays::of(123, 2);
   EXPECT_EQ(none.texts, blanks(VCM_CHAR_ARRAY_LENGTH));
   EXPECT_EQ(none.numbers, Arrays().numbers) << "as they were";

@@ -23,7 +23,7 @@ Lines cardsOf(const std::string& content) {
     }
     return read;
   };
-  const Lines once = all([&] { return cards.next(); });
+  Lines once = all([&] { return cards.next(); });
   EXPECT_EQ(cards.lineNumber(), static_cast<std::int64_t>(once.size()));
   EXPECT_TRUE(all([&] { return cards.next(); }) == once);
   for (const char first : {'a', 'x'}) {

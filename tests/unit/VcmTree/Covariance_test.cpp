@@ -10,7 +10,8 @@ TEST(Covariance, ElementsMoveToTheirPlaceInTheMessage) {
   // Row and column of each element as its digits: not symmetric, so that a mix-up of the triangles shows.
   vcm::CovarianceMatrix internal;
   for (std::size_t i = 0; i < internal.size(); ++i) {
-    internal[i] = static_cast<double>(10 * (i % kSize + 1) + i / kSize + 1);
+    const std::size_t column = i / kSize + 1;
+    internal[i] = static_cast<double>(10 * (i % kSize + 1) + column);
   }
   constexpr std::size_t kElements[kSize] = {7, 8, 1, 2, 5, 6, 3, 9, 4};
   const vcm::CovarianceMatrix external = vcm::MapMtxInt2Ext(internal);

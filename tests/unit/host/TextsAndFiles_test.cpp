@@ -107,16 +107,16 @@ TEST(NumberText, ReadOrRefusedInOneShortLine) {
       {"1.2.3", {}}, {"1,5", {}}, {"NaN", {}}, {"-Infinity", {}}, {"1e309", {}}, {"-1E400", {}}, {"0x1p3", {}},
       {"1E99999999999999999999", {}}, {"1.5-3-", {}}};
   // clang-format on
-  const auto check = [&trace](const auto& rows, auto function, const std::string& lead,
-                              const std::string& kind) {
+  const auto check = [&trace](const auto& rows, auto function, std::string_view refusal) {
     for (const auto& [text, value] : rows) {
       EXPECT_EQ(applied(function, " " + text + "  "), value.value_or(0)) << text;
-      EXPECT_EQ(trace.takeErrors(),
-                value ? Lines{} : Lines{lead + ": Cannot read \"" + text + "\" as " + kind + "."});
+      std::string refused(refusal);
+      refused.replace(refused.find('#'), 1, text);
+      EXPECT_EQ(trace.takeErrors(), value ? Lines{} : Lines{refused}) << text;
     }
   };
-  check(integers, strtoint, "strtoint", "an integer");
-  check(reals, strtoreal, "strtoreal", "a real number");
+  check(integers, strtoint, "strtoint: Cannot read \"#\" as an integer.");
+  check(reals, strtoreal, "strtoreal: Cannot read \"#\" as a real number.");
   EXPECT_TRUE(std::signbit(applied(strtoreal, "-0.0")));
   applied(strtoint, "\r\n a\nb\tc" + std::string(600, 'x'));
   EXPECT_EQ(trace.takeErrors(),
