@@ -280,7 +280,7 @@ VCM_API void VcmFieldsToSatKeyML(int32_t satNum, const char* epoch, int64_t* sat
  * Loads every good message of a file, and of the files that its directive cards name, into the
  * store. Multi-line, bare and one-line messages may be mixed with maneuver cards, comments (a "*"
  * in column 1) and any other text. A card QZ_DMA_ON anywhere in the file switches keys to direct
- * addresses.
+ * addresses. A directive card may not name a device or a pipe.
  *
  * Given:  vcmFile  name of the file (VCM_FILE_NAME_LENGTH); blanks around it do not count. It may be
  *                  a pipe.

@@ -1,5 +1,8 @@
 #include "VCM/VcmCardReading/InputFile.h"
 
+#include <sys/stat.h>
+
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -40,6 +43,14 @@ std::int32_t openInputFile(std::string_view name, OpenFile& file) {
   const int code = copy == nullptr ? streamError() : copyAll(stream, copy.get());
   file = code == 0 ? std::move(copy) : nullptr;
   return code;
+}
+
+std::int32_t openNamedFile(std::string_view name, OpenFile& file) {
+  struct stat status {};
+  // What is not found, or is a directory, the host says itself.
+  const bool found = stat(std::string(name).c_str(), &status) == 0;
+  const bool fit = !found || S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
+  return fit ? openInputFile(name, file) : EINVAL;
 }
 
 }  // namespace vcm

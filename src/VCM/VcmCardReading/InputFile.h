@@ -22,6 +22,10 @@ inline std::int32_t streamError() { return errno != 0 ? errno : EIO; }
 // first. Returns 0, or the nonzero code of an open or a copy that failed: then `file` is null.
 std::int32_t openInputFile(std::string_view name, OpenFile& file);
 
+// The same for a name that stands in another file, which may come from a stranger: a device or a pipe,
+// which might never end, is refused with EINVAL before it is opened.
+std::int32_t openNamedFile(std::string_view name, OpenFile& file);
+
 }  // namespace vcm
 
 #endif

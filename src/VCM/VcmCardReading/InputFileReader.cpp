@@ -126,7 +126,7 @@ std::int32_t followDirective(std::string_view card, MessageCounts& counts,
   getinputfilename(card.data(), &cardLength, name.data(), &nameLength);
   const std::string_view trimmed = withoutTrailingBlanks({name.data(), name.size()});
   OpenFile file;
-  if (const std::int32_t code = openInputFile(trimmed, file); code != 0) {
+  if (const std::int32_t code = openNamedFile(trimmed, file); code != 0) {
     // The code alone would not tell which of the files it is.
     std::string message("ReadVcmsFrFileUnit: Unable to open file \"");
     message.append(trimmed).append("\", which a directive card names.");
