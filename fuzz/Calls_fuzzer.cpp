@@ -45,7 +45,7 @@ class Session {
  public:
   explicit Session(fuzz::Input input) : input_(input) {
     useMode(0);
-    fuzz::virtualFiles() = {};
+    fuzz::virtualFiles().clear();
   }
   ~Session() { VcmRemoveAllSats(); }
   Session(const Session&) = delete;
@@ -175,7 +175,7 @@ class Session {
     }
   }
   void load() {
-    const bool isThere = fuzz::virtualFiles().contents.contains("saved");
+    const bool isThere = fuzz::virtualFiles().contains("saved");
     require((VcmLoadFile("saved") == 0) == isThere, "a file that is there can be loaded");
     if (!isThere || saved_.empty()) {
       return;

@@ -47,14 +47,17 @@ std::int32_t load(const char* name) {
 
 void placeFiles(fuzz::Input input) {
   constexpr std::string_view kMark = "%%FILE ";
-  auto& contents = fuzz::virtualFiles().contents;
-  std::string* content = &contents["main"];
+  auto& files = fuzz::virtualFiles();
+  files.clear();
+  const std::size_t step = std::size_t{input.take<std::uint8_t>()} + 1;
+  MemoryFile* file = &files["main"];
   while (!input.empty()) {
     const std::string_view line = input.takeLine();
     if (line.starts_with(kMark)) {
-      content = &contents[std::string(line.substr(kMark.size()))];
+      file = &files[std::string(line.substr(kMark.size()))];
     } else {
-      content->append(line).push_back('\n');
+      file->content.append(line).push_back('\n');
+      file->step = step;
     }
   }
 }
@@ -71,10 +74,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::int32_t kOrdinaryKeys = 0;
   elsetkeymodeset(&kOrdinaryKeys);
   hosttracesink(listen, nullptr);
-  fuzz::virtualFiles() = {};
-  fuzz::Input input(data, size);
-  fuzz::virtualFiles().mostPerRead = std::size_t{input.take<std::uint8_t>()} + 1;
-  placeFiles(input);
+  placeFiles(fuzz::Input(data, size));
 
   load("main");
   const bool ordinary = elsetkeymodeget() == kOrdinaryKeys;

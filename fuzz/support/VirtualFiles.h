@@ -2,20 +2,15 @@
 #ifndef FUZZ_SUPPORT_VIRTUALFILES_H
 #define FUZZ_SUPPORT_VIRTUALFILES_H
 
-#include <cstdint>
 #include <map>
 #include <string>
 
+#include "support/MemoryFile.h"
+
 namespace fuzz {
 
-struct VirtualFiles {
-  std::map<std::string, std::string, std::less<>> contents;  // by name
-  std::size_t mostPerRead = SIZE_MAX;
-  std::size_t room = SIZE_MAX;  // bytes that can be written until the disk is full
-};
-
-// What the host's `fileopen` opens, in the fuzzers.
-VirtualFiles& virtualFiles();
+// What the host's `fileopen` finds and makes in the fuzzers, by name.
+std::map<std::string, MemoryFile>& virtualFiles();
 
 }  // namespace fuzz
 

@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "DllExports/VCM/VcmDllVarsUtils/LineExpansion.h"
+#include "support/MemoryFile.h"
 #include "support/Messages.h"
 #include "support/StoreAccess.h"
 #include "support/TraceCapture.h"
@@ -19,44 +20,6 @@ using KeyReplaced = ReplacedHost<&HostReplacements::createsatkey>;
 
 const std::string kGolden = joined(goldenMessage());
 const std::string kOther = joined(withText(goldenMessage(), 4, 26, "7"));
-
-// A file in memory that behaves as badly as it is told.
-struct FaultyFile {
-  std::string content;
-  std::size_t limit = SIZE_MAX;  // where it cannot be read or written any further
-  std::size_t step = SIZE_MAX;   // how much it gives at a time
-  bool rewinds = true;
-  std::size_t at = 0;
-
-  static ssize_t read(void* cookie, char* out, std::size_t size) {
-    auto& file = *static_cast<FaultyFile*>(cookie);
-    if (file.at >= file.limit) {
-      errno = EIO;
-      return -1;
-    }
-    size = file.content.copy(out, std::min({size, file.step, file.limit - file.at}), file.at);
-    file.at += size;
-    return static_cast<ssize_t>(size);
-  }
-  static ssize_t write(void* cookie, const char* text, std::size_t size) {
-    auto& file = *static_cast<FaultyFile*>(cookie);
-    size = std::min(size, file.limit - file.content.size());
-    file.content.append(text, size);
-    errno = 0;  // it does not say why
-    return static_cast<ssize_t>(size);
-  }
-  static int seek(void* cookie, off64_t* offset, int whence) {
-    auto& file = *static_cast<FaultyFile*>(cookie);
-    *offset += static_cast<off64_t>(whence == SEEK_CUR ? file.at : 0);
-    file.at = static_cast<std::size_t>(*offset);
-    return 0;
-  }
-  std::int32_t open(std::FILE** stream, const char* mode = "r") {
-    at = 0;
-    *stream = fopencookie(this, mode, {read, write, rewinds ? seek : nullptr, nullptr});
-    return 0;
-  }
-};
 
 std::int32_t load() { return VcmLoadFile("main"); }
 std::int32_t save() { return VcmSaveFile("out", 0); }
@@ -120,7 +83,7 @@ TEST_F(HostFaults, OpensThatFail) {
       {"expand from", expand, 0, {}},
       {"expand into", expand, 1, {}},
   };
-  FaultyFile file{kGolden + "VCMFIL named\n"};
+  MemoryFile file{kGolden + "VCMFIL named\n"};
   for (const auto& row : rows) {
     for (const std::int32_t code : {EACCES, -1, INT32_MAX}) {
       SCOPED_TRACE(row.what + (" " + std::to_string(code)));
@@ -138,7 +101,7 @@ TEST_F(HostFaults, OpensThatFail) {
 
 // What cannot be rewound is copied to a temporary file, for which there may be no descriptor.
 TEST_F(HostFaults, CopyThatFails) {
-  FaultyFile file{kGolden};
+  MemoryFile file{kGolden};
   file.rewinds = false;
   const OpenReplaced open([&](auto, auto, auto, auto stream) { return file.open(stream); });
   rlimit usual{};
@@ -179,7 +142,7 @@ TEST_F(HostFaults, EndlessCollisions) {
 
 // A file is what can be read of it: as if it ended where it fails, however little comes at a time.
 TEST_F(HostFaults, ReadsThatFailOrGiveLittle) {
-  FaultyFile file{readFile(VCM_SAMPLES_DIR "/features.vcm") +
+  MemoryFile file{readFile(VCM_SAMPLES_DIR "/features.vcm") +
                   readFile(VCM_SAMPLES_DIR "/broken.vcm")};
   const auto openFaulty = [&](auto, auto, auto, auto stream) { return file.open(stream); };
   for (std::size_t end = 0; end < file.content.size() + 997; end += 997) {
@@ -206,7 +169,7 @@ TEST_F(HostFaults, DisksThatFill) {
   trace_.takeErrors();  // there is a duplicate
   before_ = storeImage();
   EXPECT_EQ(VcmSaveFile("/dev/full", 0), 0);
-  FaultyFile in{goldenOneLine() + "\n" + goldenOneLine()}, out;
+  MemoryFile in{goldenOneLine() + "\n" + goldenOneLine()}, out;
   const OpenReplaced open([&](auto, auto, auto mode, auto stream) {
     return *mode == 1 ? in.open(stream) : out.open(stream, "w");
   });
