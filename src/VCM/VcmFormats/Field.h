@@ -40,11 +40,12 @@ struct Field {
   std::string_view name;
   Column first;
   int width;
-  // Fills `width` characters at `out` and returns how many; only a date can come out longer.
+  // Fills `width` characters at `out` and returns how many.
   int (*write)(const VcmRecord& record, char* out);
   // Takes the text of the field's columns (less than `width` where the line ends early). False when
   // it cannot be read: then the member keeps its value.
   bool (*read)(std::string_view text, VcmRecord& record);
+  bool canGrow;  // may come out longer than `width`
 };
 
 // ---- formats: how one value stands in `width` characters ----------------------------------------
@@ -194,7 +195,8 @@ constexpr Field field(std::string_view name, Column first) {
           },
           [](std::string_view text, VcmRecord& record) {
             return Format::read(text, memberOf<Member, Component...>(record));
-          }};
+          },
+          requires { Format::growing; }};
 }
 
 // The three rows of a vector whose components stand `step` columns apart.

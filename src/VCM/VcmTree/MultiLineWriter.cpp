@@ -32,11 +32,11 @@ char* writeLine(const VcmRecord& record, char* line) {
   std::size_t grown = 0;
   eachIndex<layout.fields.size()>([&]<std::size_t I>() {
     constexpr const Field& field = layout.fields[I];
-    constexpr auto width = static_cast<std::size_t>(field.width);
     char* const at = line + field.first.index() + grown;
     const auto written = static_cast<std::size_t>(field.write(record, at));
-    if (written != width) {
+    if constexpr (field.canGrow) {
       // A date that came out longer pushes the rest of its line to the right.
+      constexpr auto width = static_cast<std::size_t>(field.width);
       constexpr std::string_view rest =
           layout.text.substr(std::min(field.first.index() + width, layout.text.size()));
       std::copy(rest.begin(), rest.end(), at + written);
