@@ -22,8 +22,7 @@ std::string valueOf(std::int64_t satKey, std::int32_t index) {
 template <class Elements>
 std::ptrdiff_t countChanged(const Elements& before, const Elements& after) {
   return std::inner_product(before.begin(), before.end(), after.begin(), std::ptrdiff_t{0},
-                            std::plus<>(),
-                            [](auto a, auto b) { return std::memcmp(&a, &b, sizeof a) != 0; });
+                            std::plus<>(), [](auto a, auto b) { return !fuzz::equalBits(a, b); });
 }
 
 void setField(std::int64_t satKey, std::int32_t index, std::string_view given) {

@@ -1,7 +1,6 @@
 #include "support/ArrayForm.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <string_view>
 
@@ -12,10 +11,6 @@ namespace fuzz {
 namespace {
 
 using Writer = decltype(&VcmArrayToVcmLines);
-
-bool equalBits(double a, double b) {
-  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
-}
 
 // A date may be written with more seconds than a minute has, and is a whole one only when it was read. Of
 // centuries far from ours a double of days does not resolve what seconds are rounded by.

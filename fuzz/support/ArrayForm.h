@@ -2,12 +2,18 @@
 #ifndef FUZZ_SUPPORT_ARRAYFORM_H
 #define FUZZ_SUPPORT_ARRAYFORM_H
 
+#include <bit>
 #include <cstdint>
 #include <vector>
 
 #include "vcm/Vcm.h"
 
 namespace fuzz {
+
+// Also for what no comparison tells apart, such as not-a-number and zeros of either sign.
+inline bool equalBits(double a, double b) {
+  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
 
 // As callers pass it, in memory of just its size.
 struct ArrayForm {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <tuple>
 
@@ -24,10 +25,9 @@ bool same(const ArrayForm& a, const ArrayForm& b) {
 std::int64_t ownKey(const ArrayForm& message) {
   constexpr double kFirstOf2024 = 27029.0;
   constexpr int kMinutesInDay = 1440;
-  const auto minute =
-      static_cast<int>((message.numbers[VCM_NUM_EPOCH] - kFirstOf2024) * kMinutesInDay + 0.5);
+  const long minute = std::lround((message.numbers[VCM_NUM_EPOCH] - kFirstOf2024) * kMinutesInDay);
   std::array<char, 64> epoch;  // more than any minute takes
-  std::snprintf(epoch.data(), epoch.size(), "2024%03d%02d%02d00.000", minute / kMinutesInDay + 1,
+  std::snprintf(epoch.data(), epoch.size(), "2024%03ld%02ld%02ld00.000", minute / kMinutesInDay + 1,
                 minute % kMinutesInDay / 60, minute % 60);
   return VcmFieldsToSatKey(static_cast<std::int32_t>(message.numbers[VCM_NUM_SATNUM]),
                            epoch.data());
