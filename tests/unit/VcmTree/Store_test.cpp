@@ -34,52 +34,32 @@ using KeyReplaced = ReplacedHost<&HostReplacements::createsatkey>;
 
 constexpr std::int64_t kKey = 1001;  // what a replaced host makes for every record
 
-Lines duplicates(std::initializer_list<std::int64_t> keys) {
-  Lines lines;
-  for (const std::int64_t key : keys) {
-    lines.push_back(withKey("AddRecToMem: Duplicated record/key # found.", key));
-  }
-  return lines;
-}
-
 class Store : public testing::Test {
  protected:
   void SetUp() override { emptyStore(); }
-  void TearDown() override {
-    EXPECT_EQ(emptyStore(), vcm::kStored);
-    EXPECT_EQ(mediaVcm.root, nullptr);
-  }
+  void TearDown() override { EXPECT_EQ(emptyStore(), vcm::kStored); }
   TraceCapture trace_;
 };
 
 TEST_F(Store, KeepsDeepCopies) {
-  VcmRecord given = satelliteAt(5);
+  VcmRecord given = satelliteAt(5), copy;
   given.extraLines.assign(2, vcm::ExtraLine("MANEUV 1"));
   const std::int64_t key = vcm::AddVcmToMem(given);
   given.extraLines[1].assign("CHANGED");
-  VcmRecord copy = satelliteAt(1);
   for (int time = 0; time < 2; ++time) {
-    vcm::TraceLine message = vcm::TraceLine().text("OLD");
-    vcm::VcmFindRec(mediaVcm, key, copy, &message);
-    EXPECT_EQ(message.view(), vcm::TraceLine().view());
+    vcm::VcmFindRec(mediaVcm, key, copy);
     EXPECT_EQ(copy.extraLines, ExtraLines(2, vcm::ExtraLine("MANEUV 1")));
     copy.extraLines[0].assign("CHANGED");
   }
-  // An update may change the satellite; its key and its number in the order of loading stay.
-  const std::int32_t seqNum = mediaVcm.root->seqNum;
+  // An update may change the satellite; its key stays.
   EXPECT_EQ(updateStored(key, given = satelliteAt(6)), vcm::kStored);
-  EXPECT_EQ(mediaVcm.root->seqNum, seqNum);
   vcm::VcmAttachExtraLines(mediaVcm, key, ExtraLines(3, vcm::ExtraLine("MANEUV 2")));
   vcm::VcmAttachExtraLines(mediaVcm, key + 2, ExtraLines(3));  // no such record: nothing happens
-  const VcmRecord* borrowed = nullptr;
-  vcm::VcmFindRecPtr(mediaVcm, key, borrowed);
-  ASSERT_NE(borrowed, nullptr);
-  EXPECT_TRUE(borrowed != &given && vcm::equal(*borrowed, given));
-  EXPECT_EQ(borrowed->extraLines, ExtraLines(3, vcm::ExtraLine("MANEUV 2")));
-  vcm::VcmEndRead();
-  EXPECT_EQ(removeStored(key), vcm::kStored);
-  EXPECT_EQ(storedCount(), 0);
-  EXPECT_EQ(trace_.takeErrors(), Lines{});
+  std::int32_t status = vcm::kNotFound;
+  vcm::VcmEmptyTree(mediaVcm, status);  // does nothing when it begins with a failure
+  vcm::VcmFindRec(mediaVcm, key, copy);
+  EXPECT_TRUE(vcm::equal(copy, given));
+  EXPECT_EQ(copy.extraLines, ExtraLines(3, vcm::ExtraLine("MANEUV 2")));
 }
 
 TEST_F(Store, SaysThatAKeyIsUnknown) {
@@ -95,17 +75,13 @@ TEST_F(Store, SaysThatAKeyIsUnknown) {
     EXPECT_EQ(borrowed, nullptr);
     EXPECT_EQ(messages[0].view(), vcm::TraceLine().text("FindRec: " + why).view());
     EXPECT_EQ(messages[1].view(), vcm::TraceLine().text("FindRecPtr: " + why).view());
-    EXPECT_EQ(trace_.takeErrors(), Lines{});
-    EXPECT_TRUE(updateStored(key, satelliteAt(1)) == 2 && removeStored(key) == 2);
+    EXPECT_EQ(updateStored(key, satelliteAt(1)), 2);
     EXPECT_EQ(trace_.takeErrors(),
-              (Lines{withKey("UpdateRec: Unable to locate key # in its binary tree.", key),
-                     withKey("RemoveNode: Unable to locate this key # in its binary tree.", key)}));
+              Lines{withKey("UpdateRec: Unable to locate key # in its binary tree.", key)});
   };
   check(41, "Search tree is empty.");
   const std::int64_t key = vcm::AddVcmToMem(satelliteAt(5));
-  for (const std::int64_t unknown : {std::int64_t{1}, key - 2, key + 2, INT64_MAX}) {
-    check(unknown, "search key doens't exist.");
-  }
+  check(key + 2, "search key doens't exist.");
   // What was not found has left the gate: a writer gets in.
   EXPECT_EQ(removeStored(key), vcm::kStored);
 }
@@ -131,29 +107,11 @@ TEST_F(Store, RecordsOfOneStateAreDuplicates) {
     record.commonName.assign("OTHER");
     record.extraLines.resize(1);
     EXPECT_EQ(vcm::AddVcmToMem(record), 0) << key;
-    EXPECT_EQ(trace_.takeErrors(), duplicates({key}));
     key += 2;
   }
   const VcmRecord unlikeItself = satelliteAt(5, std::nan(""));
   EXPECT_EQ(vcm::AddVcmToMem(unlikeItself), key);
   EXPECT_EQ(vcm::AddVcmToMem(unlikeItself), key + 2);
-}
-
-TEST_F(Store, SequenceNumbersOnlyGrow) {
-  vcm::AddVcmToMem(satelliteAt(1));
-  const std::int32_t last = mediaVcm.root->seqNum;
-  emptyStore();
-  // Neither emptying nor a duplicate nor the search for a free key uses up a number.
-  for (const double position : {0.0, 0.0, 1.0, 2.0}) {
-    vcm::AddVcmToMem(satelliteAt(2, position));
-  }
-  std::vector<std::int32_t> numbers;
-  vcm::StoreTree::walkUp(mediaVcm.root, [&](auto& node) { numbers.push_back(node.seqNum); });
-  EXPECT_EQ(numbers, (std::vector<std::int32_t>{last + 1, last + 2, last + 3}));
-  // Emptying that begins with a failure does nothing.
-  std::int32_t status = vcm::kNotFound;
-  vcm::VcmEmptyTree(mediaVcm, status);
-  EXPECT_TRUE(status == vcm::kNotFound && storedCount() == 3);
 }
 
 TEST_F(Store, IsUnchangedWhenMemoryRunsOut) {

@@ -15,8 +15,6 @@ struct Row {
   const char* message;  // what follows the common lead; empty for what passes
   void (*change)(VcmRecord&);
 };
-// The first ten break each check once, in the order of the checks.
-constexpr std::size_t kChecks = 10;
 // clang-format off
 const Row kRows[] = {
     {"satellite number =           -1 (valid = 1-999999999)", [](auto& r) { r.satNum = -1; }},
@@ -29,25 +27,18 @@ const Row kRows[] = {
     {"ECI VelX = 1000.000000000001 (valid -1E3 to 1E3)", [](auto& r) { r.eciVel[0] = 1000.000000000001; }},
     {"ECI VelY = -1000.25 (valid -1E3 to 1E3)", [](auto& r) { r.eciVel[1] = -1000.25; }},
     {"ECI VelZ = 10000 (valid -1E3 to 1E3)", [](auto& r) { r.eciVel[2] = 1e4; }},
-
-    {"satellite number =   1000000000 (valid = 1-999999999)", [](auto& r) { r.satNum = 1000000000; }},
-    {"Day of Epoch =            0 (valid 1-366)", [](auto& r) { r.epoch.dayOfYear = 0; }},
     {"Day of Epoch =          366 (valid 1-365)", [](auto& r) { r.epoch.year = 2023, r.epoch.dayOfYear = 366; }},
     {"Day of Epoch =          366 (valid 1-365)", [](auto& r) { r.epoch.year = 2100, r.epoch.dayOfYear = 366; }},
     {"Epoch Revolution =           -1 (valid 0-99999)", [](auto& r) { r.epochRev = -1; }},
-
     {"", [](auto& r) { r.satNum = 0, r.epoch.year = 1956, r.epoch.dayOfYear = 1; }},  // although the message says 1
     {"", [](auto& r) { r.satNum = 999999999, r.epochRev = 99999, r.epoch.dayOfYear = 366; }},
-    {"", [](auto& r) { r.epoch.year = INT32_MAX; }},
     {"", [](auto& r) { r.eciPos = {1e7, -1e7, -0.0}, r.eciVel = {1e3, -1e3, -0.0}; }},
     {"", [](auto& r) { r.eciPos.fill(std::nan("")), r.eciVel.fill(std::nan("")); }},
     {"", [](auto& r) { r.epoch.hour = 99, r.epoch.seconds = -1, r.j2kPos[0] = r.efgVel[0] = 1e9; }}};
 // clang-format on
 
-TEST(Validation, EachLimitAndAllOfThemInOrder) {
+TEST(Validation, EachLimit) {
   TraceCapture trace;
-  VcmRecord allWrong = satelliteAt(5);
-  std::vector<std::string> messages;
   for (const Row& row : kRows) {
     std::vector<std::string> expected;
     if (*row.message != '\0') {
@@ -58,13 +49,7 @@ TEST(Validation, EachLimitAndAllOfThemInOrder) {
     row.change(record);
     EXPECT_EQ(vcm::ValidateVcmValues(record), expected.empty() ? vcm::kGood : vcm::kRejected);
     EXPECT_EQ(trace.takeRawErrors(), expected) << "row " << &row - kRows;
-    if (messages.size() < kChecks) {
-      row.change(allWrong);
-      messages.push_back(expected.at(0));
-    }
   }
-  EXPECT_EQ(vcm::ValidateVcmValues(allWrong), vcm::kRejected);
-  EXPECT_EQ(trace.takeRawErrors(), messages);
 }
 
 }  // namespace
