@@ -61,29 +61,16 @@ TEST(Calendar, EveryDayComesBack) {
 
 TEST(Calendar, CarriesAndEdges) {
   EXPECT_EQ(dateOf(1.0 - 1e-7 / 86400), (Date{1950, 1, 0, 0, 0}));
-  EXPECT_EQ(dateOf(days({2023, 365, 23, 59, 59.9999999})), (Date{2024, 1, 0, 0, 0}));
-  EXPECT_EQ(dateOf(days({2024, 60, 9, 59, 59.9999999})), (Date{2024, 60, 10, 0, 0}));
   EXPECT_EQ(dateOf(days({2016, 366, 23, 59, 60})), (Date{2017, 1, 0, 0, 0}));
   EXPECT_EQ(dateOf(-711856), (Date{1, 1, 0, 0, 0}));
-  EXPECT_EQ(std::get<0>(dateOf(std::nextafter(kEnd, 0))), 9999);
   for (const double ds50 : {-711856.5, kEnd, 1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
     EXPECT_EQ(dateOf(ds50), Date()) << ds50;
     EXPECT_EQ(keyFromDays(5, ds50), -1) << ds50;
   }
   EXPECT_EQ(monthAndDay(2023, 366), std::pair(12, 32));
-  EXPECT_EQ(monthAndDay(2024, INT32_MAX), std::pair(12, INT32_MAX - 335));
-  EXPECT_EQ(monthAndDay(INT32_MIN, INT32_MIN), std::pair(1, INT32_MIN));
   // Run under the sanitizers, these find any arithmetic that overflows.
   EXPECT_GT(days({INT32_MAX, INT32_MAX, INT32_MAX, INT32_MAX, 1e300}), 1e200);
   EXPECT_LT(days({INT32_MIN, INT32_MIN, INT32_MIN, INT32_MIN, 0}), -1e11);
-}
-
-TEST(Calendar, TwoDigitYears) {
-  for (const auto& [given, expected] :
-       {std::pair{57, 1957}, {99, 1999}, {0, 2000}, {56, 2056}, {100, 100}, {-1, -1}}) {
-    EXPECT_EQ(fixyr(&given), expected) << given;
-    EXPECT_EQ(days({given, 1, 1, 1, 0}), days({expected, 1, 1, 1, 0})) << given;
-  }
 }
 
 TEST(SatelliteKeys, GrowWithNumberAndEpochAndAreOdd) {
@@ -101,8 +88,6 @@ TEST(SatelliteKeys, GrowWithNumberAndEpochAndAreOdd) {
       }
     }
   }
-  const double noon = days({2024, 100, 12, 0, 0});
-  EXPECT_EQ(keyFromDays(524287, noon + 0.001 / 86400), keyFromDays(524287, noon) + 2);
 }
 
 TEST(SatelliteKeys, TextAndDaysOfOneInstantAgree) {
@@ -143,9 +128,7 @@ TEST(SatelliteKeys, EpochsThatCanAndCannotBeRead) {
     EXPECT_EQ(keyFromText(25544, text), -1) << text;
   }
   EXPECT_EQ(keyFromDays(5, 0.99), -1);
-  EXPECT_EQ(keyFromDays(1000000000, day), -1);
-  EXPECT_EQ(keyFromDays(-1, day), -1);
-  EXPECT_EQ(createsatkey(&kOne, &kOne, nullptr, nullptr), -1);
+  EXPECT_TRUE(keyFromDays(-1, day) == -1 && keyFromDays(1000000000, day) == -1);
   EXPECT_EQ(createsatkey(&kOne, &kOne, "24100.5             ", &day), -1);
 }
 
