@@ -9,7 +9,8 @@ TEST(Covariance, ElementsMoveToTheirPlaceInTheMessage) {
   // Row and column of each element as its digits: not symmetric, so that a mix-up of the triangles shows.
   vcm::CovarianceMatrix internal;
   for (std::size_t i = 0; i < internal.size(); ++i) {
-    internal[i] = static_cast<double>(10 * (i % kSize + 1) + i / kSize + 1);
+    const std::size_t digits = 10 * (i % kSize + 1) + i / kSize + 1;
+    internal[i] = static_cast<double>(digits);
   }
   const vcm::CovarianceTriangle triangle = vcm::Vcm2dTo1d(internal);
   constexpr std::size_t kElements[kSize] = {7, 8, 1, 2, 5, 6, 3, 9, 4};
