@@ -11,10 +11,9 @@
 #include "support/TraceCapture.h"
 #include "vcm/Vcm.h"
 
-// Starts and ends each test with an empty store, and keeps the trace.
+// Ends each test with an empty store, and keeps the trace.
 class InterfaceStore : public ::testing::Test {
  protected:
-  void SetUp() override { VcmRemoveAllSats(); }
   void TearDown() override { VcmRemoveAllSats(); }
 
   // The golden message, stored.
@@ -40,31 +39,7 @@ inline std::string toOneLine(const std::string& text, int result = 0) {
   return written<VcmMultiLineTo1Line, VCM_ONE_LINE_LENGTH>(result, text.c_str());
 }
 
-// An area of lines of 80 characters as lines, without blanks at their ends and empty lines at its end.
-inline Lines linesOf(const std::string& area) {
-  Lines lines;
-  for (std::size_t at = 0; at < area.size(); at += 80) {
-    lines.push_back(area.substr(at, 80));
-    lines.back().erase(lines.back().find_last_not_of(' ') + 1);
-  }
-  while (!lines.empty() && lines.back().empty()) {
-    lines.pop_back();
-  }
-  return lines;
-}
-
 inline std::string blanks(std::size_t count) { return std::string(count, ' '); }
-
-// A key as messages show it: in 19 columns.
-inline std::string shown(std::int64_t key) {
-  const std::string digits = std::to_string(key);
-  return blanks(19 - digits.size()) + digits;
-}
-
-// What every function says of a key that is not stored.
-inline std::string unknownKey(const std::string& function, std::int64_t key) {
-  return function + ": Unable to locate satKey " + shown(key) + " in the VCM binary tree.";
-}
 
 struct Arrays {
   std::vector<double> numbers = std::vector<double>(VCM_NUM_ARRAY_LENGTH, 4711.0);
