@@ -76,7 +76,7 @@ class StoreStress : public testing::TestWithParam<bool> {
       threads.emplace_back([&] {
         while (begun_.fetch_add(1) < wanted) {
           auto drawn = mix.begin();
-          for (int left = worker.random.integer(0, shares - 1); left >= drawn->share; ++drawn) {
+          for (int left = worker.anyOf(0, shares - 1); left >= drawn->share; ++drawn) {
             left -= drawn->share;
           }
           worker.doing = drawn->name;
@@ -107,7 +107,7 @@ class StoreStress : public testing::TestWithParam<bool> {
   }
 
   void add(Worker& worker) {
-    const VcmRecord record = recordOf(worker.satNum(), worker.random.integer(0, 999));
+    const VcmRecord record = recordOf(worker.satNum(), worker.anyOf(0, 999));
     const std::int64_t key = vcm::AddVcmToMem(record);
     EXPECT_NE(key, vcm::kNoKey);
     if (key != vcm::kDuplicateKey) {
@@ -122,7 +122,7 @@ class StoreStress : public testing::TestWithParam<bool> {
   }
   void removeOne(Worker& worker) {
     if (const int count = static_cast<int>(worker.keys.size()); count > 0) {
-      const auto at = static_cast<std::size_t>(worker.random.integer(0, count - 1));
+      const auto at = static_cast<std::size_t>(worker.anyOf(0, count - 1));
       std::swap(worker.keys[at], worker.keys.back());
       remove(worker.keys.back());
       worker.keys.pop_back();
@@ -130,15 +130,15 @@ class StoreStress : public testing::TestWithParam<bool> {
   }
 
   static std::size_t anyLasting(Worker& worker) {
-    return static_cast<std::size_t>(worker.random.integer(0, kLasting - 1));
+    return static_cast<std::size_t>(worker.anyOf(0, kLasting - 1));
   }
   void update(Worker& worker) {
     const std::size_t i = anyLasting(worker);
-    const VcmRecord record = recordOf(static_cast<int>(i) + 1, worker.random.integer(0, 999));
+    const VcmRecord record = recordOf(static_cast<int>(i) + 1, worker.anyOf(0, 999));
     EXPECT_EQ(updateStored(lasting_[i], record), vcm::kStored) << i;
   }
   void findSatellite(Worker& worker) {
-    const int satNum = worker.random.integer(1, kFirstLoaded + kInFile * kThreads - 1);
+    const int satNum = worker.anyOf(1, kFirstLoaded + kInFile * kThreads - 1);
     const bool lasts = satNum <= kLasting;
     const std::int64_t key = vcm::VcmSatKeyGet(mediaVcm, satNum);
     EXPECT_TRUE(!lasts || key == lasting_[static_cast<std::size_t>(satNum) - 1]) << satNum;
@@ -157,7 +157,7 @@ class StoreStress : public testing::TestWithParam<bool> {
   }
 
   void list(Worker& worker) {
-    const std::int32_t order = worker.random.integer(0, 3);
+    const std::int32_t order = worker.anyOf(0, 3);
     std::array<std::int64_t, 2000> keys{};  // 0 is the key of none
     VcmGetLoaded(order, keys.data());
     const auto end = std::find(keys.begin(), keys.end(), 0);

@@ -3,13 +3,13 @@
 #define CONCURRENCY_STRESSWORKER_H
 
 #include <atomic>
+#include <random>
 #include <string>
 #include <vector>
 
 #include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmTree/MultiLineWriter.h"
 #include "support/Messages.h"
-#include "support/RandomRecords.h"
 
 inline constexpr int kLasting = 20;  // satellites 1 to 20: updated, never removed
 inline constexpr int kThreads = 4;   // each adds a satellite of its own behind those
@@ -50,9 +50,10 @@ struct Worker {
   }
   int satNum() const { return kLasting + 1 + number; }
   int firstLoaded() const { return kFirstLoaded + kInFile * number; }
+  int anyOf(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); }
 
   int number;
-  RandomRecords random;
+  std::mt19937_64 random;
   std::vector<std::int64_t> keys;
   TemporaryFile toLoad, saved;
   std::atomic<const char*> doing{"nothing"};

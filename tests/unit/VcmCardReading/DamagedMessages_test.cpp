@@ -44,25 +44,27 @@ TEST(DamagedMessages, TextsWithAByteChanged) {
 }
 
 // All texts of a place stand in one file: one that lacks a line end goes on with the next.
-TEST(DamagedMessages, BareFilesWithAByteChanged) {
-  const std::string good = joined(bareForm(goldenMessage()));
-  for (std::size_t at = 0; at < good.size(); ++at) {
-    const Lines texts = changedAt(at, good);
-    std::string content = joined(texts, "");
-    const Views lines = linesOf(content);
-    const vcm::OpenFile file = inMemory(content);
-    vcm::CardReader cards(file.get());
-    std::size_t start = 0;
-    for (const std::string& text : texts) {
-      while (cards.lineNumber() <= static_cast<std::int64_t>(start)) {
-        ASSERT_TRUE(cards.next());
+TEST(DamagedMessages, FilesWithAByteChanged) {
+  for (const bool isBare : {false, true}) {
+    const auto type = isBare ? vcm::CardType::bareFirstLine : vcm::CardType::multiLineHeader;
+    const std::string good = joined(isBare ? bareForm(goldenMessage()) : goldenMessage());
+    for (std::size_t at = 0; at < good.size(); ++at) {
+      const Lines texts = changedAt(at, good);
+      std::string content = joined(texts, "");
+      const Views lines = linesOf(content);
+      const vcm::OpenFile file = inMemory(content);
+      vcm::CardReader cards(file.get());
+      std::size_t start = 0;
+      for (const std::string& text : texts) {
+        while (cards.lineNumber() <= static_cast<std::int64_t>(start)) {
+          ASSERT_TRUE(cards.next());
+        }
+        auto rest = std::span(lines).subspan(start);
+        const vcm::VcmRecord plain = plainMessage(rest, true, isBare);
+        ASSERT_TRUE(same(vcm::ReadVCMFrFileUnit(cards, type), plain)) << at << ": " << text;
+        ASSERT_EQ(cards.lineNumber(), std::ssize(lines) - std::ssize(rest)) << at << ": " << text;
+        start += static_cast<std::size_t>(std::ranges::count(text, '\n'));
       }
-      auto rest = std::span(lines).subspan(start);
-      const vcm::VcmRecord plain = plainMessage(rest, true, true);
-      const auto record = vcm::ReadVCMFrFileUnit(cards, vcm::CardType::bareFirstLine);
-      ASSERT_TRUE(same(record, plain)) << at << ": " << text;
-      ASSERT_EQ(cards.lineNumber(), std::ssize(lines) - std::ssize(rest)) << at << ": " << text;
-      start += static_cast<std::size_t>(std::ranges::count(text, '\n'));
     }
   }
 }
