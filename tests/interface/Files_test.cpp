@@ -28,4 +28,21 @@ TEST_F(Files, LoadedAndSaved) {
   EXPECT_EQ(trace_.takeInfos().back(), "Total VCMs = 7, Loaded = 1, Dup = 2, Bad = 4");
 }
 
+// A file is put together in a buffer, which is handed over when a line does not fit any more.
+TEST_F(Files, MoreThanABufferHolds) {
+  EXPECT_EQ(VcmLoadFile(VCM_SAMPLES_DIR "/catalogue.vcm"), 0);
+  std::vector<std::int64_t> keys(300);
+  VcmGetLoaded(VCM_ORDER_KEY, keys.data());
+  for (const std::int64_t key : keys) {
+    Arrays arrays = Arrays::of(key);
+    arrays[VCM_NUM_SATNUM] += 1000;
+    EXPECT_GT(VcmAddSatFrFields(arrays.texts.data(), arrays.numbers.data()), 0);
+  }
+  const TemporaryFile all(saved());
+  VcmRemoveAllSats();
+  EXPECT_EQ(VcmLoadFile(all.path().c_str()), 0);
+  EXPECT_EQ(trace_.takeInfos().back(), "Total VCMs = 600, Loaded = 600, Dup = 0, Bad = 0");
+  EXPECT_TRUE(saved() == readFile(all.path()));
+}
+
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 
 #include "DllExports/VCM/VcmDllVarsUtils/LineExpansion.h"
 #include "support/MemoryFile.h"
@@ -99,19 +100,24 @@ TEST_F(HostFaults, OpensThatFail) {
   }
 }
 
-// What cannot be rewound is copied to a temporary file, for which there may be no descriptor.
-TEST_F(HostFaults, CopyThatFails) {
-  MemoryFile file{kGolden};
-  file.rewinds = false;
-  const OpenReplaced open([&](auto, auto, auto, auto stream) { return file.open(stream); });
-  rlimit usual{};
-  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &usual), 0);
-  const rlimit none{0, usual.rlim_max};
-  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
-  const std::int32_t code = load();
-  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &usual), 0);
-  EXPECT_EQ(code, EMFILE);
-  expectUntouched({});
+// What cannot be rewound is copied to a temporary file, for which there may be no descriptor, or no room.
+TEST_F(HostFaults, CopiesThatFail) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  for (const std::size_t copies : {1U, 10U}) {
+    MemoryFile file{std::string(copies * 1000, '*')};
+    file.rewinds = false;
+    const OpenReplaced open([&](auto, auto, auto, auto stream) { return file.open(stream); });
+    for (const auto& [limited, code] : {std::pair(RLIMIT_NOFILE, EMFILE), {RLIMIT_FSIZE, EFBIG}}) {
+      rlimit usual{};
+      ASSERT_EQ(getrlimit(limited, &usual), 0);
+      const rlimit none{0, usual.rlim_max};
+      ASSERT_EQ(setrlimit(limited, &none), 0);
+      const std::int32_t result = load();
+      ASSERT_EQ(setrlimit(limited, &usual), 0);
+      EXPECT_EQ(result, code) << copies;
+      expectUntouched({});
+    }
+  }
 }
 
 TEST_F(HostFaults, KeysThatCannotBeMade) {
@@ -169,7 +175,8 @@ TEST_F(HostFaults, DisksThatFill) {
   trace_.takeErrors();  // there is a duplicate
   before_ = storeImage();
   EXPECT_EQ(VcmSaveFile("/dev/full", 0), 0);
-  MemoryFile in{goldenOneLine() + "\n" + goldenOneLine()}, out;
+  const std::string line = goldenOneLine() + "\n";
+  MemoryFile in{line + line + line}, out;  // more than a stream keeps back
   const OpenReplaced open([&](auto, auto, auto mode, auto stream) {
     return *mode == 1 ? in.open(stream) : out.open(stream, "w");
   });
