@@ -1,3 +1,5 @@
+#include <cerrno>
+
 #include "support/InterfaceStore.h"
 
 namespace {
@@ -26,6 +28,7 @@ TEST_F(Files, LoadedAndSaved) {
   name.resize(VCM_FILE_NAME_LENGTH, ' ');
   EXPECT_EQ(VcmLoadFile(std::vector(name.begin(), name.end()).data()), 0);
   EXPECT_EQ(trace_.takeInfos().back(), "Total VCMs = 7, Loaded = 1, Dup = 2, Bad = 4");
+  EXPECT_TRUE(VcmLoadFile("  ") == ENOENT && VcmSaveFile("", 0) == ENOENT);
 }
 
 // A file is put together in a buffer, which is handed over when a line does not fit any more.

@@ -17,12 +17,16 @@ namespace {
 
 const int kStride = randomCount("VCM_BYTE_STRIDE", kFastBuild ? 1 : 31);
 
-// A text with the byte at a place replaced by each value that the stride leaves for that place.
+// A text with the byte at a place replaced by each value that the stride leaves for that place, and by
+// those that mean something anywhere.
 Lines changedAt(std::size_t at, std::string text) {
+  constexpr std::string_view kAlways("\n\0\t<x", 5);
   Lines all;
-  for (int byte = static_cast<int>(at) % kStride; byte < 256; byte += kStride) {
+  for (int byte = 0; byte < 256; ++byte) {
     text[at] = static_cast<char>(byte);
-    all.push_back(text);
+    if ((byte + static_cast<int>(at)) % kStride == 0 || kAlways.find(text[at]) != kAlways.npos) {
+      all.push_back(text);
+    }
   }
   return all;
 }

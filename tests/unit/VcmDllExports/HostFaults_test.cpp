@@ -176,7 +176,7 @@ TEST_F(HostFaults, DisksThatFill) {
   before_ = storeImage();
   EXPECT_EQ(VcmSaveFile("/dev/full", 0), 0);
   const std::string line = goldenOneLine() + "\n";
-  MemoryFile in{line + line + line}, out;  // more than a stream keeps back
+  MemoryFile in{line + line + line + line + line}, out;  // more than a stream keeps back
   const OpenReplaced open([&](auto, auto, auto mode, auto stream) {
     return *mode == 1 ? in.open(stream) : out.open(stream, "w");
   });

@@ -41,7 +41,7 @@ constexpr RealShape kRealShapes[] = {
     kFixed<5, 1>, kFixed<35, 15>, kScientific<13, 6>, kScientific<12, 6>, kScientific<13, 5>, kScientific<12, 5>,
     kScientific<10, 3>, kScientific<10, 2>, kScientific<9, 2>, kScientific<9, 3>};  // the last has no column for a sign
 constexpr IntegerShape kIntegerShapes[] = {
-    kInteger<2>, kInteger<3>, kInteger<4>, kInteger<5>, kInteger<9>, kZeroFilled<2>, kZeroFilled<3>, kZeroFilled<4>};
+    kInteger<2>, kInteger<3>, kInteger<4>, kInteger<5>, kInteger<9>, kInteger<12>, kZeroFilled<2>, kZeroFilled<3>, kZeroFilled<4>};
 // clang-format on
 
 class Numbers : public testing::Test {
