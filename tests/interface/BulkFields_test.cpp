@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "support/InterfaceStore.h"
 
@@ -84,6 +85,7 @@ TEST_F(BulkFields, UpdateReplacesAllButNumberAndEpoch) {
   Arrays arrays = Arrays::of(key);
   arrays[VCM_NUM_BTERM] = 0.5;
   arrays[VCM_NUM_ECIPOS] = 1e300;  // not held against limits
+  arrays[VCM_NUM_EDR] = HUGE_VAL;
   Arrays expected = arrays;
   arrays[VCM_NUM_SATNUM] = arrays[VCM_NUM_EPOCH] = 99.0;
   arrays[VCM_NUM_COVMTXSIZE] = 0.9;
@@ -96,6 +98,7 @@ TEST_F(BulkFields, UpdateReplacesAllButNumberAndEpoch) {
   };
   EXPECT_EQ(update(), 0);
   EXPECT_TRUE(Arrays::of(key) == expected);
+  EXPECT_EQ(field(key, VCM_FIELD_EDR), std::string(24, '*'));
   // The message that is stored now breaks a limit, and so cannot be updated any more.
   arrays[VCM_NUM_BTERM] = 0.25;
   EXPECT_EQ(update(), 2);
