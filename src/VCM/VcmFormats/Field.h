@@ -196,7 +196,9 @@ constexpr Field field(std::string_view name, Column first) {
           [](std::string_view text, VcmRecord& record) {
             return Format::read(text, memberOf<Member, Component...>(record));
           },
-          requires { Format::growing; }};
+          requires {Format::growing;
+}
+};  // namespace vcm
 }
 
 // The three rows of a vector whose components stand `step` columns apart.
