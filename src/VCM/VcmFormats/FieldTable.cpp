@@ -39,6 +39,7 @@ using ErrorControlValue = Real<Scientific<10, 3, 0>>;
 
 struct GeneralNotation {
   static constexpr int width = kGeneralWidth;
+  static constexpr Look look{"g17"};
   static void write(double value, char* out) { writeGeneral(out, value); }
 };
 using FreeFormValue = Real<GeneralNotation>;
@@ -56,6 +57,7 @@ struct MillisecondRateValue : RealValue {
 
 struct FieldDate {
   static constexpr int width = kFieldDateWidth;
+  static constexpr Look look{"date"};
   static void write(const InputDate& date, char* out) { writeFieldDate(date, out); }
   static bool read(std::string_view value, InputDate& date) { return readFieldDate(value, date); }
 };
@@ -83,7 +85,8 @@ constexpr SingleField row(std::int32_t index, std::string_view name) {
             Format::write(memberOf<Member, Component...>(record), out);
           },
           kField.read,
-          {}};
+          {},
+          kField.look};
 }
 
 template <auto Member, class Format>

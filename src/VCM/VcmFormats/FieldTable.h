@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "VCM/VcmFormats/Look.h"
 #include "VCM/VcmTypes/VcmRecord.h"
 
 namespace vcm {
@@ -24,6 +25,7 @@ struct SingleField {
   bool (*read)(std::string_view value, VcmRecord& record);
   // What a field without `read` is called when a change is refused.
   std::string_view refusedAs;
+  Look look;
 };
 
 // By index, which counts from 1. Deliberately without the common name, the J2000 and Earth-fixed
