@@ -6,6 +6,7 @@ the name in capitals. A test holds this module against the header.
 
 from typing import Final
 
+INFO_LENGTH: Final = 128
 FILE_NAME_LENGTH: Final = 512
 TEXT_LENGTH: Final = 4000
 ONE_LINE_LENGTH: Final = 1500

@@ -19,6 +19,9 @@ from .record import Arrays, Buffers, Record
 
 # Held while messages are added, and while keys are listed.
 growing = threading.RLock()
+# Held while messages are changed: the library reads a message, changes a field and writes all of it back, and
+# one thread's change could undo another's.
+changing = threading.RLock()
 
 _NO_KEY = -1
 _DUPLICATE = 0
@@ -37,6 +40,13 @@ class Order(IntEnum):
     """In the order of loading."""
     KEY = 3
     """By key."""
+
+
+def info() -> str:
+    """The library's name, version and host."""
+    buffer = ctypes.create_string_buffer(_layout.INFO_LENGTH)
+    call(library().VcmGetInfo, buffer)
+    return buffer.raw.decode("latin-1").rstrip()
 
 
 def count() -> int:
@@ -137,7 +147,10 @@ def update(satKey: int, record: Record | Arrays) -> None:
     """
     arrays = record.to_arrays() if isinstance(record, Record) else record
     buffers = Buffers(arrays)
-    code, lines = call(library().VcmUpdateSatFrFields, checked(satKey, 64), buffers.texts, buffers.numbers)
+    with changing:
+        code, lines = call(
+            library().VcmUpdateSatFrFields, checked(satKey, 64), buffers.texts, buffers.numbers
+        )
     if code != 0 and contains(satKey):
         raise RefusedError(f"the message of key {satKey} is not to be changed", errors(lines))
     require_found(satKey, code, lines)
