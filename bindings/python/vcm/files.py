@@ -17,9 +17,9 @@ _TOTALS = re.compile(r"Total VCMs = +\d+, Loaded = +(\d+), Dup = +(\d+), Bad = +
 class LoadResult:
     """What became of a file's messages.
 
-    `messages` are the library's lines about those that are duplicates, cannot be read or break a limit;
-    one that breaks a limit is counted nowhere. Where the host keeps its trace to itself, `messages` is
-    empty and `duplicate` and `bad` are -1.
+    `messages` are the library's lines about those that are duplicates, cannot be read or break a limit.
+    As in the library's own totals, a multi-line message that breaks a limit is counted nowhere. Where the
+    host keeps its trace to itself, `messages` is empty and `duplicate` and `bad` are -1.
     """
 
     loaded: int
