@@ -1,0 +1,182 @@
+"""One message, as a record of typed fields, and its array form."""
+
+import ctypes
+import dataclasses
+from collections.abc import Sequence
+from dataclasses import dataclass
+from datetime import datetime
+from typing import TYPE_CHECKING, Any, NamedTuple
+
+from . import _layout
+from ._encoding import encode
+from ._optional import matrix, vector
+from .dates import to_datetime, to_days
+from .errors import RefusedError
+
+if TYPE_CHECKING:
+    from ._optional import Array
+
+
+class Arrays(NamedTuple):
+    """A message in the array form of the C interface: 512 numbers and 512 characters."""
+
+    numbers: Sequence[float]
+    texts: str
+
+
+@dataclass(frozen=True, eq=False, kw_only=True)
+class Record:
+    """One message. It is not bound to the store: changing what is stored takes `vcm.update`.
+
+    Fields are named as in the C interface. Vectors and the covariance are numpy arrays that may not be
+    written, or tuples where numpy is not installed; any sequence may be given for them. The covariance is
+    the symmetric n x n matrix of the equinoctial elements af, ag, L, n, chi, psi, B, Bdot, AGOM.
+    `epochDays` and `leapSecondDays` are the library's own days since 1950 UTC; `epoch` and
+    `leapSecondTime` the same as dates. What the form leaves out are a common name and maneuver cards.
+    """
+
+    satNum: int = 0
+    intlDes: str = ""
+    epochDays: float = 0.0
+    epochRev: int = 0
+    j2kPos: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km; made an array below
+    j2kVel: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
+    eciPos: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # true of date, km
+    eciVel: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
+    efgPos: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # Earth-fixed, km
+    efgVel: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
+    geoName: str = ""
+    geoZonals: int = 0
+    geoTesserals: int = 0
+    dragModel: str = ""
+    lunarSolar: str = ""  # ON or OFF, as the three below
+    radPress: str = ""
+    earthTides: str = ""
+    intrackThrust: str = ""
+    bTerm: float = 0.0  # m2/kg
+    bDot: float = 0.0  # m2/kg-s
+    agom: float = 0.0  # m2/kg
+    edr: float = 0.0  # W/kg
+    thrustAccel: float = 0.0  # m/s2
+    cmOffset: float = 0.0  # m
+    f10: int = 0
+    avgF10: int = 0
+    avgAp: float = 0.0
+    taiMinusUtc: float = 0.0  # s
+    ut1MinusUtc: float = 0.0  # s
+    ut1Rate: float = 0.0  # ms/day
+    polarMotionX: float = 0.0  # arcsec
+    polarMotionY: float = 0.0  # arcsec
+    nutationTerms: int = 0
+    leapSecondDays: float = 0.0
+    integMode: str = ""
+    coordSys: str = ""
+    partials: str = ""
+    stepMode: str = ""
+    fixedStep: str = ""  # ON or OFF
+    stepSelection: str = ""
+    initStepSize: float = 0.0  # s
+    errorControl: float = 0.0
+    posSigmas: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # U, V, W, km
+    velSigmas: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
+    wtdRms: float = 0.0
+    covariance: "Array" = ()  # type: ignore[assignment]
+
+    def __post_init__(self) -> None:
+        for name in _layout.COMPONENTS:
+            object.__setattr__(self, name, vector(getattr(self, name)))
+            if len(getattr(self, name)) != 3:
+                raise RefusedError(f"{name} has three components")
+        object.__setattr__(self, "covariance", matrix(self.covariance))
+        n = len(self.covariance)
+        if n > len(_layout.ELEMENTS) or any(len(row) != n for row in self.covariance):
+            raise RefusedError(f"covariance is a square matrix of at most {len(_layout.ELEMENTS)} rows")
+
+    @property
+    def epoch(self) -> datetime:
+        """The epoch, in UTC, to the microsecond. Raises RefusedError outside the years 1 to 9999."""
+        return to_datetime(self.epochDays)
+
+    @property
+    def leapSecondTime(self) -> datetime:
+        """The time-constant leap second time, as `epoch`."""
+        return to_datetime(self.leapSecondDays)
+
+    @property
+    def covMtxSize(self) -> int:
+        """The covariance's dimension, 0 where there is none."""
+        return len(self.covariance)
+
+    def replace(self, **changes: Any) -> "Record":
+        """The same record with some fields changed; `epoch` and `leapSecondTime` may be given as dates."""
+        for name in _layout.DATES & changes.keys():
+            changes[_DAYS[name]] = to_days(changes.pop(name))
+        return dataclasses.replace(self, **changes)
+
+    def __eq__(self, other: object) -> bool:
+        if not isinstance(other, Record):
+            return NotImplemented
+        return self.to_arrays() == other.to_arrays()
+
+    def to_arrays(self) -> Arrays:
+        """The record in the array form. A text that is too long is cut, as the library would."""
+        numbers = [0.0] * _layout.NUM_ARRAY_LENGTH
+        for name, (first, length) in _layout.NUMBERS.items():
+            if name == "covariance":
+                triangle = [self.covariance[i][j] for i in range(self.covMtxSize) for j in range(i + 1)]
+                numbers[first : first + len(triangle)] = map(float, triangle)
+            elif length > 1:
+                numbers[first : first + length] = map(float, getattr(self, name))
+            else:
+                numbers[first] = float(getattr(self, _DAYS.get(name, name)))
+        texts = [" "] * _layout.CHAR_ARRAY_LENGTH
+        for name, (first, length) in _layout.TEXTS.items():
+            texts[first : first + length] = getattr(self, name)[:length].ljust(length)
+        return Arrays(numbers, "".join(texts))
+
+    @classmethod
+    def from_arrays(cls, arrays: "Arrays | tuple[Sequence[float], str]") -> "Record":
+        """The record of a message in the array form."""
+        numbers, texts = arrays
+        fields: dict[str, Any] = {}
+        for name, (first, length) in _layout.NUMBERS.items():
+            if name == "covariance":
+                fields[name] = _square(numbers, first)
+            elif length > 1:
+                fields[name] = numbers[first : first + length]
+            elif name != "covMtxSize":
+                value = numbers[first]
+                fields[_DAYS.get(name, name)] = int(value) if name in _layout.INTEGERS else value
+        for name, (first, length) in _layout.TEXTS.items():
+            fields[name] = texts[first : first + length].rstrip()
+        return cls(**fields)
+
+
+_DAYS = {"epoch": "epochDays", "leapSecondTime": "leapSecondDays"}
+
+
+def _square(numbers: Sequence[float], first: int) -> list[list[float]]:
+    """Both triangles of the covariance, from the rows of the lower one."""
+    n = max(0, min(int(numbers[_layout.NUMBERS["covMtxSize"][0]]), len(_layout.ELEMENTS)))
+    return [
+        [numbers[first + max(i, j) * (max(i, j) + 1) // 2 + min(i, j)] for j in range(n)]
+        for i in range(n)
+    ]
+
+
+class Buffers:
+    """The two arrays that go to a function of the library and come back."""
+
+    def __init__(self, arrays: "Arrays | tuple[Sequence[float], str] | None" = None) -> None:
+        self.numbers = (ctypes.c_double * _layout.NUM_ARRAY_LENGTH)()
+        self.texts = (ctypes.c_char * _layout.CHAR_ARRAY_LENGTH)()
+        if arrays is not None:
+            numbers, texts = arrays
+            if len(numbers) > len(self.numbers) or len(texts) > len(self.texts):
+                raise RefusedError("the array form has 512 numbers and 512 characters")
+            self.numbers[: len(numbers)] = list(map(float, numbers))
+            self.texts.raw = encode(texts).ljust(len(self.texts))
+
+    def arrays(self) -> Arrays:
+        """What they hold."""
+        return Arrays(list(self.numbers), self.texts.raw.decode("latin-1"))
