@@ -45,7 +45,7 @@ def test_choices() -> None:
     assert table.dtype.names == ("epochDays", "satKey") and table["satKey"].tolist() == keys
     with pytest.raises(vcm.NotFoundError, match=" 4 in"):
         vcm.table([*keys, 4])
-    with pytest.raises(KeyError, match="nothing"):
+    with pytest.raises(vcm.RefusedError, match="nothing"):
         vcm.table(columns=["nothing"])
     vcm.clear()
     assert len(vcm.table()) == 0

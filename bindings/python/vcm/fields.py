@@ -7,7 +7,7 @@ from datetime import datetime
 
 from . import _layout
 from ._encoding import checked, encode
-from ._trace import call, errors, library
+from ._trace import call, call_holding, errors, library
 from .dates import Moment, epoch_text, to_datetime
 from .errors import NotFoundError, RefusedError
 from .messages import changing, contains, get_arrays, require_found
@@ -57,10 +57,8 @@ def set_field(satKey: int, name: str, value: Moment) -> None:
     none of FIELD_NAMES or a value that does not fit.
     """
     text = _value_text(name, value)
-    with changing:
-        code, lines = call(
-            library().VcmSetField, checked(satKey, 64), _index(name), encode(text)
-        )
+    change = library().VcmSetField
+    code, lines = call_holding(changing, change, checked(satKey, 64), _index(name), encode(text))
     if code != 0:
         error = RefusedError if contains(satKey) else NotFoundError
         raise error(f"{name} of key {satKey} is not set", errors(lines))

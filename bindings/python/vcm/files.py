@@ -5,12 +5,12 @@ import os
 import re
 from dataclasses import dataclass
 
-from . import _layout, _trace
-from ._trace import Line, call, errors, library
+from . import _layout
+from ._trace import Line, call, call_holding, errors, library
 from .errors import FileError
-from .messages import count, growing
+from .messages import growing
 
-_TOTALS = re.compile(r"Total VCMs = +\d+, Loaded = +(\d+), Dup = +(\d+), Bad = +(\d+)".replace(" +", " *"))
+_TOTALS = re.compile(r"Total VCMs = *\d+, Loaded = *(\d+), Dup = *(\d+), Bad = *(\d+)")
 
 
 @dataclass(frozen=True)
@@ -35,16 +35,19 @@ def load(path: str | os.PathLike[str]) -> LoadResult:
     loaded before a directive card named such a file stays loaded.
     """
     name = _file_name(path)
-    with growing:
-        before = count()
-        code, lines = call(library().VcmLoadFile, name)
-        after = count()
+    (code, growth), lines = call_holding(growing, _load, name)
     _require_opened(path, code, lines)
     totals = [found for line in lines if (found := _TOTALS.fullmatch(line.text))]
     if not totals:
-        return LoadResult(max(0, after - before), -1, -1)
+        return LoadResult(max(0, growth), -1, -1)
     loaded, duplicate, bad = (sum(int(found[i]) for found in totals) for i in (1, 2, 3))
     return LoadResult(loaded, duplicate, bad, tuple(errors(lines)))
+
+
+def _load(name: bytes) -> tuple[int, int]:
+    """The library's code, and by how much the store has grown."""
+    before = library().VcmGetCount()
+    return library().VcmLoadFile(name), library().VcmGetCount() - before
 
 
 def save(path: str | os.PathLike[str], append: bool = False) -> None:

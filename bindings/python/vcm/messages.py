@@ -12,7 +12,7 @@ from typing import TypeVar
 
 from . import _layout, _trace
 from ._encoding import checked, encode
-from ._trace import Line, call, errors, library
+from ._trace import Line, call, call_holding, errors, library
 from .dates import Moment, epoch_text
 from .errors import DuplicateError, NotFoundError, RefusedError, VcmError
 from .record import Arrays, Buffers, Record
@@ -56,14 +56,17 @@ def count() -> int:
 
 def keys(order: Order = Order.SATELLITE) -> list[int]:
     """The keys of all stored messages."""
-    with growing:
-        room = count()
-        if room == 0:
-            return []
-        # What another thread removes meanwhile leaves its place as it is.
-        found = (ctypes.c_int64 * room)(*[_NO_KEY] * room)
-        call(library().VcmGetLoaded, int(order), found)
+    found, _ = call_holding(growing, _keys, int(order))
+    # What another thread removes meanwhile leaves its place as it is.
     return [key for key in found if key != _NO_KEY]
+
+
+def _keys(order: int) -> "ctypes.Array[ctypes.c_int64]":
+    room = library().VcmGetCount()
+    found = (ctypes.c_int64 * room)(*[_NO_KEY] * room)
+    if room > 0:
+        library().VcmGetLoaded(order, found)
+    return found  # type: ignore[no-any-return]
 
 
 def find(satNum: int) -> int:
@@ -118,13 +121,14 @@ def add(message: str | Record | Arrays) -> int:
     text cannot be read or a value is outside its limits. Messages of one satellite and epoch that differ
     are kept both: the later one gets the next free key.
     """
-    with growing:
-        if isinstance(message, str):
-            added, lines = call(library().VcmAddSatFrLines, encode(message))
-        else:
-            arrays = message.to_arrays() if isinstance(message, Record) else message
-            buffers = Buffers(arrays)
-            added, lines = call(library().VcmAddSatFrFields, buffers.texts, buffers.numbers)
+    if isinstance(message, str):
+        text = encode(message)
+        added, lines = call_holding(growing, library().VcmAddSatFrLines, text)
+    else:
+        buffers = Buffers(message.to_arrays() if isinstance(message, Record) else message)
+        added, lines = call_holding(
+            growing, library().VcmAddSatFrFields, buffers.texts, buffers.numbers
+        )
     if added == _NO_KEY:
         raise RefusedError("the message is refused", errors(lines))
     if added == _DUPLICATE:
@@ -147,10 +151,10 @@ def update(satKey: int, record: Record | Arrays) -> None:
     """
     arrays = record.to_arrays() if isinstance(record, Record) else record
     buffers = Buffers(arrays)
-    with changing:
-        code, lines = call(
-            library().VcmUpdateSatFrFields, checked(satKey, 64), buffers.texts, buffers.numbers
-        )
+    replace = library().VcmUpdateSatFrFields
+    code, lines = call_holding(
+        changing, replace, checked(satKey, 64), buffers.texts, buffers.numbers
+    )
     if code != 0 and contains(satKey):
         raise RefusedError(f"the message of key {satKey} is not to be changed", errors(lines))
     require_found(satKey, code, lines)

@@ -2,6 +2,7 @@
 
 import ctypes
 import dataclasses
+from array import array
 from collections.abc import Sequence
 from dataclasses import dataclass
 from datetime import datetime
@@ -158,10 +159,15 @@ _DAYS = {"epoch": "epochDays", "leapSecondTime": "leapSecondDays"}
 def _square(numbers: Sequence[float], first: int) -> list[list[float]]:
     """Both triangles of the covariance, from the rows of the lower one."""
     n = max(0, min(int(numbers[_layout.NUMBERS["covMtxSize"][0]]), len(_layout.ELEMENTS)))
-    return [
-        [numbers[first + max(i, j) * (max(i, j) + 1) // 2 + min(i, j)] for j in range(n)]
-        for i in range(n)
-    ]
+    triangle = numbers[first : first + n * (n + 1) // 2]
+    return [[triangle[place] for place in row[:n]] for row in _PLACES[:n]]
+
+
+# Of each element of the covariance, its place in the lower triangle.
+_PLACES = [
+    [max(i, j) * (max(i, j) + 1) // 2 + min(i, j) for j in range(len(_layout.ELEMENTS))]
+    for i in range(len(_layout.ELEMENTS))
+]
 
 
 class Buffers:
@@ -174,9 +180,13 @@ class Buffers:
             numbers, texts = arrays
             if len(numbers) > len(self.numbers) or len(texts) > len(self.texts):
                 raise RefusedError("the array form has 512 numbers and 512 characters")
-            self.numbers[: len(numbers)] = list(map(float, numbers))
+            self._view()[: len(numbers)] = memoryview(array("d", numbers))
             self.texts.raw = encode(texts).ljust(len(self.texts))
 
     def arrays(self) -> Arrays:
         """What they hold."""
-        return Arrays(list(self.numbers), self.texts.raw.decode("latin-1"))
+        return Arrays(self._view().tolist(), self.texts.raw.decode("latin-1"))
+
+    def _view(self) -> memoryview:
+        """The numbers without ctypes, which goes through them one by one."""
+        return memoryview(self.numbers).cast("B").cast("d")

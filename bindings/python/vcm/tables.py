@@ -6,7 +6,7 @@ from typing import TYPE_CHECKING, Any
 
 from . import _layout, messages
 from ._trace import call, errors, library
-from .errors import NotFoundError
+from .errors import NotFoundError, RefusedError
 from .messages import Order
 
 if TYPE_CHECKING:
@@ -57,12 +57,14 @@ def table(
     cov_AGOM_AGOM. `columns` chooses some, in the order given.
 
     Messages that another thread removes meanwhile are left out of the whole store; of `keys` that are not
-    stored, the first is told by NotFoundError. Raises KeyError for a column that is none, ImportError
+    stored, the first is told by NotFoundError. Raises RefusedError for a column that is none, ImportError
     without numpy.
     """
     import numpy as np
 
     chosen = ["satKey", *_COLUMNS] if columns is None else list(columns)
+    if unknown := [name for name in chosen if name != "satKey" and name not in _COLUMNS]:
+        raise RefusedError(f"no column is named {', '.join(unknown)}")
     dtypes = [(name, "i8" if name == "satKey" else _COLUMNS[name].dtype) for name in chosen]
     every = np.array(messages.keys(order) if keys is None else list(keys), dtype=np.int64)
     result = np.zeros(len(every), dtype=dtypes)
