@@ -2,8 +2,8 @@
 
 usage: PYTHONPATH=bindings/python python3 benchmarks/python/table.py [MESSAGES [FILE]]
 
-FILE holds the messages, for instance one that make_messages wrote, and MESSAGES does not count. Without
-it, those of the sample catalogue are added under numbers of their own.
+FILE holds the messages, for instance one that make_messages wrote, and MESSAGES does not count.
+Without it, those of the sample catalogue are added under numbers of their own.
 """
 
 import sys

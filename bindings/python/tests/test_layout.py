@@ -66,5 +66,7 @@ def test_functions_are_declared_as_in_the_header() -> None:
         assert len(parameters) == len(arguments), name
         for parameter, argument in zip(parameters, arguments):
             by_address = "*" in parameter or "[" in parameter
-            given = (ctypes.c_void_p, ctypes.c_char_p) if by_address else (plain[parameter.split()[0]],)
+            given = (
+                (ctypes.c_void_p, ctypes.c_char_p) if by_address else (plain[parameter.split()[0]],)
+            )
             assert argument in given, f"{name}: {parameter}"

@@ -1,15 +1,15 @@
 """Calls into the library, with what it wrote to its trace.
 
-The bundled host hands each line of its trace log to one sink, on the thread that wrote it and with the
-trace log locked. The sink here only puts the line into a list of its thread; when the call is over,
-the calling thread passes the lines on to the logger `vcm`. So no handler of the application ever runs
-under the host's lock, and each call knows which lines are its own.
+The bundled host hands each line of its trace log to one sink, on the thread that wrote it and with
+the trace log locked. The sink here only puts the line into a list of its thread; when the call is
+over, the calling thread passes the lines on to the logger `vcm`. So no handler of the application
+ever runs under the host's lock, and each call knows which lines are its own.
 
-No deadlock can come of the host's lock and the interpreter's: the sink waits for the interpreter lock
-while it holds the host's, but nobody waits for the host's while holding the interpreter's, since every
-call into the library releases the interpreter lock first (ctypes.CDLL). What is left is a signal handler
-or a finalizer that runs in the middle of the sink, on its thread: a call of the library from there is
-refused.
+No deadlock can come of the host's lock and the interpreter's: the sink waits for the interpreter
+lock while it holds the host's, but nobody waits for the host's while holding the interpreter's,
+since every call into the library releases the interpreter lock first (ctypes.CDLL). What is left is
+a signal handler or a finalizer that runs in the middle of the sink, on its thread: a call of the
+library from there is refused.
 
 HOST_TRACE_LOG goes on working: a sink of one's own switches the host's file off, so this one writes
 each line to that file as well.
@@ -48,9 +48,7 @@ class _Thread(threading.local):
 
 
 _thread = _Thread()
-_Sink = ctypes.CFUNCTYPE(
-    None, ctypes.c_int32, ctypes.c_void_p, ctypes.c_int32, ctypes.c_void_p
-)
+_Sink = ctypes.CFUNCTYPE(None, ctypes.c_int32, ctypes.c_void_p, ctypes.c_int32, ctypes.c_void_p)
 
 
 def _trace_file() -> int | None:
@@ -126,11 +124,15 @@ def call(function: Callable[P, T], *args: P.args, **kwargs: P.kwargs) -> tuple[T
 
 
 def call_holding(
-    lock: AbstractContextManager[object], function: Callable[P, T], *args: P.args, **kwargs: P.kwargs
+    lock: AbstractContextManager[object],
+    function: Callable[P, T],
+    *args: P.args,
+    **kwargs: P.kwargs
 ) -> tuple[T, list[Line]]:
     """As `call`, with a lock held; it is given back before the logging.
 
-    A handler of the application may be waiting for it, in another thread that holds the handler's lock.
+    A handler of the application may be waiting for it, in another thread that holds the handler's
+    lock.
     """
     with lock:
         result, lines = _listened(function, *args, **kwargs)
@@ -144,9 +146,7 @@ def quietly(function: Callable[P, T], *args: P.args, **kwargs: P.kwargs) -> T:
     return _listened(function, *args, **kwargs)[0]
 
 
-def _listened(
-    function: Callable[P, T], *args: P.args, **kwargs: P.kwargs
-) -> tuple[T, list[Line]]:
+def _listened(function: Callable[P, T], *args: P.args, **kwargs: P.kwargs) -> tuple[T, list[Line]]:
     if _thread.in_sink:
         raise VcmError("vcm is called from a signal handler or finalizer within its own trace sink")
     lines: list[Line] = []

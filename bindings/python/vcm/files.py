@@ -17,10 +17,10 @@ _TOTALS = re.compile(r"Total VCMs = *\d+, Loaded = *(\d+), Dup = *(\d+), Bad = *
 class LoadResult:
     """What became of a file's messages.
 
-    `messages` are the library's lines about those that are duplicates, cannot be read or break a limit.
-    As in the library's own totals, a multi-line message that breaks a limit is counted nowhere. Where the
-    host keeps its trace to itself, `messages` is empty and `duplicate` and `bad` are -1.
-    """
+    `messages` are the library's lines about those that are duplicates, cannot be read or break a
+    limit. As in the library's own totals, a multi-line message that breaks a limit is counted
+    nowhere. Where the host keeps its trace to itself, `messages` is empty and `duplicate` and `bad`
+    are -1."""
 
     loaded: int
     duplicate: int
@@ -31,8 +31,8 @@ class LoadResult:
 def load(path: str | os.PathLike[str]) -> LoadResult:
     """Loads every good message of a file, and of the files that its directive cards name.
 
-    One thread loads at a time, others run on. Raises FileError when a file cannot be opened; what was
-    loaded before a directive card named such a file stays loaded.
+    One thread loads at a time, others run on. Raises FileError when a file cannot be opened; what
+    was loaded before a directive card named such a file stays loaded.
     """
     name = _file_name(path)
     (code, growth), lines = call_holding(growing, _load, name)
@@ -51,7 +51,8 @@ def _load(name: bytes) -> tuple[int, int]:
 
 
 def save(path: str | os.PathLike[str], append: bool = False) -> None:
-    """Saves every stored message as a multi-line message, ascending by key; `append` keeps what is there.
+    """Saves every stored message as a multi-line message, ascending by key; `append` keeps what is
+    there.
 
     Raises FileError when the file cannot be opened. What a full disk does not take is not reported.
     """

@@ -1,8 +1,7 @@
 """The messages of the store: there is one store in a process, and these functions work on it.
 
-Any thread may call any of them. Listing waits for `load` and `add` of other threads, and they for one
-another: the library asks that nothing be added while keys are listed.
-"""
+Any thread may call any of them. Listing waits for `load` and `add` of other threads, and they for
+one another: the library asks that nothing be added while keys are listed. """
 
 import ctypes
 import re
@@ -19,8 +18,8 @@ from .record import Arrays, Buffers, Record
 
 # Held while messages are added, and while keys are listed.
 growing = threading.RLock()
-# Held while messages are changed: the library reads a message, changes a field and writes all of it back, and
-# one thread's change could undo another's.
+# Held while messages are changed: the library reads a message, changes a field and writes all of it
+# back, and one thread's change could undo another's.
 changing = threading.RLock()
 
 _NO_KEY = -1
@@ -84,7 +83,8 @@ def key(satNum: int, epoch: Moment) -> int:
     """The key that a message of this satellite and epoch has; it need not be stored.
 
     `epoch` is a date (without a zone: UTC), days since 1950 UTC, or the library's text
-    "YYYYDDDHHMMSS.SSS" or "YYDDD.DDDDDDDD". Raises RefusedError when the number or the epoch is none.
+    "YYYYDDDHHMMSS.SSS" or "YYDDD.DDDDDDDD". Raises RefusedError when the number or the epoch is
+    none.
     """
     text = epoch_text(epoch)
     made, _ = call(library().VcmFieldsToSatKey, checked(satNum, 32), encode(text))
@@ -101,7 +101,9 @@ def get(satKey: int) -> Record:
 def get_arrays(satKey: int) -> Arrays:
     """The message of a key, in the array form. Raises NotFoundError."""
     buffers = Buffers()
-    code, lines = call(library().VcmRetrieveAllData, checked(satKey, 64), buffers.texts, buffers.numbers)
+    code, lines = call(
+        library().VcmRetrieveAllData, checked(satKey, 64), buffers.texts, buffers.numbers
+    )
     require_found(satKey, code, lines)
     return buffers.arrays()
 
@@ -116,10 +118,10 @@ def contains(satKey: int) -> bool:
 def add(message: str | Record | Arrays) -> int:
     """Adds a message, given as text (one-line or lines), as a record or in the array form.
 
-    Returns its key. Raises DuplicateError, with the key of its twin, when the same message (satellite,
-    epoch, ECI state, ballistic and radiation pressure coefficient) is stored already; RefusedError when the
-    text cannot be read or a value is outside its limits. Messages of one satellite and epoch that differ
-    are kept both: the later one gets the next free key.
+    Returns its key. Raises DuplicateError, with the key of its twin, when the same message
+    (satellite, epoch, ECI state, ballistic and radiation pressure coefficient) is stored already;
+    RefusedError when the text cannot be read or a value is outside its limits. Messages of one
+    satellite and epoch that differ are kept both: the later one gets the next free key.
     """
     if isinstance(message, str):
         text = encode(message)
@@ -146,8 +148,8 @@ def _duplicate(messages: list[str]) -> DuplicateError:
 def update(satKey: int, record: Record | Arrays) -> None:
     """Replaces a stored message, all but its satellite number and epoch.
 
-    What a record does not carry, the common name and maneuver cards, is lost. The new values are not held
-    against limits. Raises NotFoundError.
+    What a record does not carry, the common name and maneuver cards, is lost. The new values are
+    not held against limits. Raises NotFoundError.
     """
     arrays = record.to_arrays() if isinstance(record, Record) else record
     buffers = Buffers(arrays)

@@ -20,7 +20,7 @@ class _Column:
     """One column: its type, and where it stands in the array form."""
 
     def __init__(self, dtype: str, position: int, length: int = 1, is_date: bool = False) -> None:
-        self.dtype, self.position, self.length, self.is_date = dtype, position, length, is_date
+        self.dtype, self.position, self.length, self.is_date = (dtype, position, length, is_date)
 
 
 def _layout_columns() -> Iterator[tuple[str, _Column]]:
@@ -51,14 +51,14 @@ def table(
 ) -> "npt.NDArray[np.void]":
     """Stored messages as a numpy structured array of scalar columns: all, or those of `keys`.
 
-    `pandas.DataFrame(vcm.table())` takes it as it is. The columns are `satKey` and the record's fields:
-    vectors as eciPosX, posSigmasU and so on, `epoch` and `leapSecondTime` as datetime64[us] beside the
-    exact `epochDays` and `leapSecondDays`, the covariance's lower triangle as cov_af_af, cov_ag_af, ... to
-    cov_AGOM_AGOM. `columns` chooses some, in the order given.
+    `pandas.DataFrame(vcm.table())` takes it as it is. The columns are `satKey` and the record's
+    fields: vectors as eciPosX, posSigmasU and so on, `epoch` and `leapSecondTime` as datetime64[us]
+    beside the exact `epochDays` and `leapSecondDays`, the covariance's lower triangle as cov_af_af,
+    cov_ag_af, ... to cov_AGOM_AGOM. `columns` chooses some, in the order given.
 
-    Messages that another thread removes meanwhile are left out of the whole store; of `keys` that are not
-    stored, the first is told by NotFoundError. Raises RefusedError for a column that is none, ImportError
-    without numpy.
+    Messages that another thread removes meanwhile are left out of the whole store; of `keys` that
+    are not stored, the first is told by NotFoundError. Raises RefusedError for a column that is
+    none, ImportError without numpy.
     """
     import numpy as np
 
@@ -79,7 +79,7 @@ def table(
             missing = int(wanted[~found][0])
             raise NotFoundError(f"no message of key {missing} is stored", errors(lines)[:1])
         rows = result[filled : filled + int(found.sum())]
-        got_numbers, got_texts = numbers[: len(wanted)][found], texts[: len(wanted)][found]
+        got_numbers, got_texts = (numbers[: len(wanted)][found], texts[: len(wanted)][found])
         for name in chosen:
             if name == "satKey":
                 rows[name] = wanted[found]
