@@ -22,7 +22,7 @@ class Block:
 def blocks(text):
     """The page's blocks in order. A text block is the output of the block before it in its section;
     others are pictures, which nothing is asked of."""
-    found, paragraph, code, can_show = [], [], None, False
+    found, paragraph, open_paragraph, code, can_show = [], [], False, None, False
     for number, line in enumerate(text.splitlines(), 1):
         fence = re.match(r"\s*```(.*)", line)
         if code is not None and fence:
@@ -41,9 +41,8 @@ def blocks(text):
         elif line.startswith("#"):
             can_show, paragraph = False, []
         elif line.strip():
-            paragraph.append(line)
-        elif paragraph and not paragraph[-1].endswith(":"):
-            paragraph = []
+            paragraph = [*paragraph, line] if open_paragraph else [line]
+        open_paragraph = bool(line.strip())
     if code is not None:
         raise SyntaxError(f"the block of line {code.line} has no end")
     return found
