@@ -127,7 +127,7 @@ def call_holding(
     lock: AbstractContextManager[object],
     function: Callable[P, T],
     *args: P.args,
-    **kwargs: P.kwargs
+    **kwargs: P.kwargs,
 ) -> tuple[T, list[Line]]:
     """As `call`, with a lock held; it is given back before the logging.
 
