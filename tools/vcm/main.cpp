@@ -19,14 +19,15 @@ constexpr const char* kExamples = R"(Examples:
   vcm show catalogue.vcm 13                   the messages of satellite 13
   vcm get catalogue.vcm 13 epoch bTerm        some of its fields
   vcm set a.vcm 13 bTerm=0.0012 -o b.vcm      a file with one of them changed
+  vcm diff monday.vcm tuesday.vcm             what became of which message
   vcm convert today.one -o today.vcm          one-line messages to multi-line ones
   vcm convert a.vcm -o a.json --to json       everything, for other programs
   vcm expand today.one today.vcm              columns copied, nothing checked
   vcm list --help                             more about a command
 
 Files are read in every form but CSV; - is standard input.
-Exit codes: 0 fine, 1 something in the input was bad, 2 wrong usage or a file
-that cannot be read or written.)";
+Exit codes: 0 fine, 1 something in the input was bad or, for diff, different,
+2 wrong usage or a file that cannot be read or written.)";
 
 std::string versions() {
   std::array<char, VCM_INFO_LENGTH> info;
@@ -59,8 +60,8 @@ int main(int argc, char** argv) {
   program.failure_message(usageError);
   for (const auto addCommand :
        {vcmtool::addListCommand, vcmtool::addCheckCommand, vcmtool::addShowCommand,
-        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addConvertCommand,
-        vcmtool::addExpandCommand}) {
+        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addDiffCommand,
+        vcmtool::addConvertCommand, vcmtool::addExpandCommand}) {
     addCommand(program, exitCode);
   }
 

@@ -7,8 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "Host/HostCore.h"
-#include "VCM/VcmTree/Store.h"
 #include "commands/Command.h"
 #include "commands/Findings.h"
 #include "commands/Inputs.h"
@@ -32,14 +30,6 @@ FILE is judged alone.
 Examples:
   vcm check catalogue.vcm today.json
   vcm check -q *.vcm && echo all good)";
-
-// A file that switched to direct addresses must not do so for the next one.
-void startAfresh() {
-  constexpr std::int32_t kOrdinaryKeys = 0;
-  std::int32_t status = vcm::kStored;
-  vcm::VcmEmptyTree(vcm::mediaVcm, status);
-  elsetkeymodeset(&kOrdinaryKeys);
-}
 
 void writeTally(StandardOutput& output, std::string_view title, const Tally& tally) {
   fmt::format_to(std::back_inserter(output.buffer()),

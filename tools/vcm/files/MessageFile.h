@@ -14,6 +14,9 @@ namespace vcmtool {
 // failed.
 std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer = nullptr);
 
+// Empties the store. A file that switched to direct addresses does so no longer for the next one.
+void startAfresh();
+
 // What a file is written as again: in the form of its messages, the multi-line one where they are
 // mixed.
 struct FileForm {
