@@ -1,5 +1,6 @@
 // vcm: VCM files on the command line.
 #include <fmt/format.h>
+#include <unistd.h>
 
 #include <CLI/CLI.hpp>
 #include <array>
@@ -9,6 +10,7 @@
 #include <string_view>
 
 #include "commands/Command.h"
+#include "terminal/Colors.h"
 #include "vcm/Vcm.h"
 
 namespace {
@@ -37,9 +39,18 @@ std::string versions() {
   return fmt::format("vcm {}\n{}", VCM_PROGRAM_VERSION, library);
 }
 
+void addColors(CLI::App& command) {
+  using namespace vcmtool;
+  command.add_option_function<std::string>("--color", chooseColors, "When to use colours")
+      ->check(CLI::IsMember({kColorsOnTerminals, kColorsAlways, kColorsNever}))
+      ->type_name("WHEN")
+      ->default_str(kColorsOnTerminals);
+}
+
 std::string usageError(const CLI::App* program, const CLI::Error& error) {
   const auto commands = program->get_subcommands();
-  return fmt::format("vcm: {}\nTry: vcm {}--help\n", error.what(),
+  return fmt::format("{} {}\nTry: vcm {}--help\n",
+                     vcmtool::styled(STDERR_FILENO, vcmtool::Style::error, "vcm:"), error.what(),
                      commands.empty() ? "" : commands.front()->get_name() + " ");
 }
 
@@ -63,6 +74,9 @@ int main(int argc, char** argv) {
         vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addDiffCommand,
         vcmtool::addConvertCommand, vcmtool::addExpandCommand}) {
     addCommand(program, exitCode);
+  }
+  for (CLI::App* const command : program.get_subcommands({})) {
+    addColors(*command);
   }
 
   try {

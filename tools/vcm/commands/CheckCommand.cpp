@@ -1,7 +1,6 @@
 // vcm check: what is wrong with files.
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <atomic>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -46,17 +45,17 @@ struct Verdict {
   ExitCode exitCode() const { return unopened ? kFailed : tally.bad > 0 ? kBadInput : kFine; }
 };
 
-void checkFile(const std::string& file, bool quiet, StandardOutput& output,
-               std::atomic<std::int64_t>& seen, Verdict& verdict) {
+void checkFile(const std::string& file, bool quiet, StandardOutput& output, Progress& progress,
+               Verdict& verdict) {
   startAfresh();
-  Findings findings(output, seen);
+  Findings findings(output, progress);
   // The reader's own count line leaves out what is refused; the tally below takes its place.
   const Trace trace([&findings](bool isError, std::string_view line) {
     if (isError && !findings.reason(line)) {
       printMessage(line);
     }
   });
-  const std::int32_t code = readMessageFile(file, &findings);
+  const std::int32_t code = readMessageFile(file, findings, progress);
   verdict.tally += findings.tally();
   if (code != 0) {
     reportUnopened(file, code);
@@ -70,11 +69,10 @@ ExitCode check(const Inputs& inputs) {
   StandardOutput output;
   Verdict verdict;
   {
-    std::atomic<std::int64_t> seen = 0;
-    Progress progress([&seen] { return seen.load(); });
+    Progress progress("Checking");
     for (const std::string& file : inputs.files) {
       progress.file(file);
-      checkFile(file, inputs.quiet, output, seen, verdict);
+      checkFile(file, inputs.quiet, output, progress, verdict);
     }
   }
   if (inputs.files.size() > 1 && !inputs.quiet) {

@@ -1,9 +1,12 @@
 // vcm diff: what two files do not have in common.
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "commands/Command.h"
@@ -13,6 +16,8 @@
 #include "messages/Forms.h"
 #include "messages/IsoDate.h"
 #include "messages/RecordDifferences.h"
+#include "terminal/Colors.h"
+#include "terminal/Progress.h"
 #include "terminal/StandardOutput.h"
 
 namespace vcmtool {
@@ -87,7 +92,11 @@ class Differ {
     return record;
   }
 
-  void line(char sign, std::string_view text) { output_.line(fmt::format("{} {}", sign, text)); }
+  void line(char sign, std::string_view text) {
+    const Style style = sign == '-' ? Style::removed : sign == '+' ? Style::added : Style::title;
+    output_.line(
+        styled(STDOUT_FILENO, style, fmt::format("{} {}", sign, vcm::withoutTrailingBlanks(text))));
+  }
 
   void title(char sign, const vcm::VcmRecord& record) {
     if (options_.quiet) {
@@ -143,10 +152,23 @@ ExitCode diff(const DiffOptions& options) {
   }
   StandardOutput output;
   Differ differ(options, output);
-  pairMessages(
-      before, after,
-      [&differ](const vcm::VcmRecord& a, const vcm::VcmRecord& b) { return differ.areSame(a, b); },
-      [&differ](const vcm::VcmRecord* a, const vcm::VcmRecord* b) { differ.take(a, b); });
+  {
+    Progress progress("Comparing");
+    progress.file(options.before, before.count() + after.count());
+    pairMessages(
+        before, after,
+        [&differ](const vcm::VcmRecord& a, const vcm::VcmRecord& b) {
+          return differ.areSame(a, b);
+        },
+        [&](const vcm::VcmRecord* a, const vcm::VcmRecord* b) {
+          differ.take(a, b);
+          for (const vcm::VcmRecord* const record : {a, b}) {
+            if (record != nullptr) {
+              progress.count();
+            }
+          }
+        });
+  }
   differ.summary();
   return output.finish(std::max(loaded, differ.exitCode()));
 }

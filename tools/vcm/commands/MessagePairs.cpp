@@ -9,6 +9,7 @@
 
 #include "VCM/VcmTree/Store.h"
 #include "files/MessageFile.h"
+#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
@@ -85,7 +86,7 @@ void takeGroups(std::span<Message> a, std::span<Message> b, const AreSame& areSa
 
 }  // namespace
 
-TakenMessages::TakenMessages() {
+TakenMessages::TakenMessages() : count_(VcmGetCount()) {
   std::swap(media_.root, vcm::mediaVcm.root);
   startAfresh();
 }

@@ -17,9 +17,11 @@ class TakenMessages {
   TakenMessages& operator=(const TakenMessages&) = delete;
 
   const vcm::VcmMedia& media() const { return media_; }
+  std::int32_t count() const { return count_; }
 
  private:
   vcm::VcmMedia media_;
+  std::int32_t count_;
 };
 
 using AreSame = std::function<bool(const vcm::VcmRecord& a, const vcm::VcmRecord& b)>;

@@ -50,18 +50,20 @@ bool holdsUnread(std::string_view card) {
 
 }  // namespace
 
-std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer) {
+std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
+                             Progress& progress) {
   vcm::logInfo(fmt::format("Reading \"{}\"", name));
   vcm::OpenFile file;
   if (const std::int32_t code = vcm::openInputFile(name, file); code != 0) {
     return code;
   }
+  const Progress::Reading reading(progress, fileno(file.get()));
   if (isJson(file.get())) {
-    readJsonMessages(file.get(), name, observer);
+    readJsonMessages(file.get(), name, &observer);
     return 0;
   }
   vcm::CardReader cards(file.get());
-  return vcm::ReadVcmsFrFileUnit(cards, name, observer);
+  return vcm::ReadVcmsFrFileUnit(cards, name, &observer);
 }
 
 void startAfresh() {
