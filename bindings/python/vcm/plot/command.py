@@ -81,6 +81,8 @@ def _table(arguments: argparse.Namespace, kind: str) -> Callable[[Any], Any]:
     from . import overview
 
     table = tables.table(columns=_COLUMNS)
+    for note in overview.notes(table, orbits=kind == "catalogue"):
+        _tell(f"{arguments.file}: {note}")
     plural = "s" * (len(table) != 1)
     title = _title(arguments, f"{Path(arguments.file).name}: {len(table):,} message{plural}")
     picture = overview.catalogue if kind == "catalogue" else overview.epochs

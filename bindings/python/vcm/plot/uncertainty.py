@@ -64,7 +64,7 @@ def _number(correlation: float) -> str:
         return "–"
     beyond = abs(correlation) > 1.005
     text = f"{'<' if correlation < 0 else '>'} {np.sign(correlation):.0f}" if beyond else f"{correlation:.2f}"
-    return text.replace("-", "\N{MINUS SIGN}")
+    return text.replace("-0.00", "0.00").replace("-", "\N{MINUS SIGN}")
 
 
 def _draw_sigmas(axes: Any, values: Any, labels: tuple[str, ...], large: str, small: str, color: str) -> None:
@@ -72,8 +72,9 @@ def _draw_sigmas(axes: Any, values: Any, labels: tuple[str, ...], large: str, sm
     is_small = not (np.abs(values) >= 1.0).any()
     values, unit = (values * 1000.0, small) if is_small else (values, large)
     bars = axes.bar(labels, values, 0.6, color=color)
-    axes.bar_label(bars, [f"{value:.4g}" for value in values], padding=2, fontsize=9)
+    axes.bar_label(bars, [f"{value:.3g}" for value in values], padding=2, fontsize=9)
     axes.set_ylabel(unit)
     axes.margins(y=0.15)
+    axes.set_ylim(bottom=min(0.0, np.nanmin(values, initial=0.0)))
     axes.tick_params(axis="x", length=0)
     axes.spines["bottom"].set_color(GREY)
