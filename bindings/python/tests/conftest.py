@@ -1,4 +1,5 @@
-"""What the tests share: the samples, one message as text, and a plain reading of a sample's lines."""
+"""What the tests share: the samples, one message as text, and a plain reading of a sample's
+lines."""
 
 import re
 import subprocess
@@ -46,7 +47,9 @@ def plain_messages(text: str) -> list[Plain]:
     for block in text.split("<> SP VECTOR")[1:]:
         head, _, tail = block.partition("COVARIANCE MATRIX")
         values = [float(word) for word in re.findall(r"[-+]?0?\.\d{5}E[-+]\d\d", tail)[1:]]
-        found.append(Plain((head + "COVARIANCE MATRIX" + tail.splitlines()[0]).splitlines(), values))
+        found.append(
+            Plain((head + "COVARIANCE MATRIX" + tail.splitlines()[0]).splitlines(), values)
+        )
     return found
 
 

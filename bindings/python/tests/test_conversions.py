@@ -26,7 +26,9 @@ def test_every_form_says_the_same() -> None:
         assert vcm.to_one_line(lines) == vcm.to_one_line(record) == without_common_name(one_line)
         assert vcm.to_one_line(one_line) == one_line.rstrip()
         assert without_leap_second_time(vcm.to_lines(one_line)) == without_leap_second_time(lines)
-        assert vcm.to_record(one_line) == record.replace(leapSecondTime=vcm.to_record(one_line).leapSecondTime)
+        assert vcm.to_record(one_line) == record.replace(
+            leapSecondTime=vcm.to_record(one_line).leapSecondTime
+        )
 
 
 def test_what_is_no_message() -> None:

@@ -10,7 +10,7 @@ HEADER = (ROOT / "include" / "vcm" / "Vcm.h").read_text()
 CONSTANTS = {
     name: (int(value), comment)
     for name, value, comment in re.findall(
-        r"#define VCM_(\w+) +(\d+)(?: +/\* *(.*?) *\*/)?$", HEADER, re.MULTILINE
+        r"#define VCM_(\w+) +(\d+)(?: +/\*[*<]* *(.*?) *\*/)?$", HEADER, re.MULTILINE
     )
 }
 
@@ -38,7 +38,7 @@ def test_positions_and_lengths() -> None:
     assert capitals(_layout.TEXTS) == texts
     for name in (name for name in vars(_layout) if name.endswith("_LENGTH")):
         assert getattr(_layout, name) == CONSTANTS[name][0], name
-    assert ", ".join(_layout.ELEMENTS) in HEADER
+    assert ", ".join(_layout.ELEMENTS) in re.sub(r"[\s*]+", " ", HEADER)
     assert {order.name: int(order) for order in Order} == {
         name: value for name, (value, _) in constants("ORDER_").items()
     }
@@ -66,5 +66,7 @@ def test_functions_are_declared_as_in_the_header() -> None:
         assert len(parameters) == len(arguments), name
         for parameter, argument in zip(parameters, arguments):
             by_address = "*" in parameter or "[" in parameter
-            given = (ctypes.c_void_p, ctypes.c_char_p) if by_address else (plain[parameter.split()[0]],)
+            given = (
+                (ctypes.c_void_p, ctypes.c_char_p) if by_address else (plain[parameter.split()[0]],)
+            )
             assert argument in given, f"{name}: {parameter}"

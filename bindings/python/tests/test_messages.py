@@ -50,7 +50,9 @@ def test_orders(order: vcm.Order, expected: object) -> None:
 
 def test_counts_are_those_of_this_load(tmp_path: Path) -> None:
     (tmp_path / "named.vcm").write_text(message(7) + message(8))
-    (tmp_path / "directives.vcm").write_text(f"VCMFIL = {tmp_path}/named.vcm\n{message(7)}{message(9)}")
+    (tmp_path / "directives.vcm").write_text(
+        f"VCMFIL = {tmp_path}/named.vcm\n{message(7)}{message(9)}"
+    )
     for path, loaded, duplicate, bad in [
         (SAMPLES / "broken.vcm", 2, 1, 4),
         (SAMPLES / "broken.vcm", 0, 3, 4),
@@ -97,7 +99,9 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     assert key == vcm.find(5) == vcm.key(5, record.epoch) == vcm.key(5, record.epochDays)
     assert key == vcm.key(5, record.epoch.astimezone(timezone(timedelta(hours=-7))))
     square = [[i + j for j in range(6)] for i in range(6)]
-    changed = record.replace(bTerm=0.0125, covariance=square, leapSecondTime=datetime(2017, 1, 1), satNum=6)
+    changed = record.replace(
+        bTerm=0.0125, covariance=square, leapSecondTime=datetime(2017, 1, 1), satNum=6
+    )
     vcm.update(key, changed)
     assert vcm.get(key) == changed.replace(satNum=5)
     vcm.save(tmp_path / "saved.vcm")

@@ -13,7 +13,8 @@ from conftest import CATALOGUE, SAMPLES, message, run_python
 
 
 def in_threads(*actions: object) -> None:
-    """Runs them side by side, switching threads far more often than usual; the first error is raised."""
+    """Runs them side by side, switching threads far more often than usual; the first error is
+    raised."""
     errors: list[BaseException] = []
 
     def guarded(action: object) -> None:
@@ -50,7 +51,7 @@ def test_threads_do_not_see_each_others_lines(tmp_path: Path) -> None:
         """Calls the library for each line: handlers run outside of the host's lock."""
 
         def emit(self, record: logging.LogRecord) -> None:
-            vcm.count()
+            vcm.keys()
 
     broken = message(9).replace("ECI POS", "ECI PIS")
 
@@ -75,7 +76,9 @@ def test_threads_do_not_see_each_others_lines(tmp_path: Path) -> None:
     handler = Nosy(logging.DEBUG)
     logging.getLogger("vcm").addHandler(handler)
     try:
-        in_threads(*(lambda n=n: load(n) for n in (1, 2, 3)), *(lambda n=n: ask(n) for n in (1000, 2000)))
+        in_threads(
+            *(lambda n=n: load(n) for n in (1, 2, 3)), *(lambda n=n: ask(n) for n in (1000, 2000))
+        )
     finally:
         logging.getLogger("vcm").removeHandler(handler)
 
@@ -93,7 +96,8 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
 
 
 def test_a_load_leaves_the_interpreter_to_others(tmp_path: Path) -> None:
-    """The load waits for a pipe that this thread fills: it would wait for ever with the interpreter held."""
+    """The load waits for a pipe that this thread fills: it would wait for ever with the interpreter
+    held."""
     pipe = tmp_path / "pipe"
     os.mkfifo(pipe)
     results: list[vcm.LoadResult] = []
@@ -119,7 +123,8 @@ def test_the_log_file_of_the_host_goes_on(tmp_path: Path) -> None:
 
 def test_a_host_without_a_sink() -> None:
     """Counts come from the store, errors have a text of the package's own."""
-    code = """
+    code = (
+        """
 import vcm._library
 class Mute:
     def __init__(self, library): self.library = library
@@ -128,11 +133,14 @@ class Mute:
         return getattr(self.library, name)
 load = vcm._library.load
 vcm._library.load = lambda: Mute(load())
-""" + LOAD + """
+"""
+        + LOAD
+        + """
 for wrong in (lambda: vcm.get(4), lambda: vcm.add('x'), lambda: vcm.add(vcm.get(vcm.keys()[0]))):
     try: wrong()
     except vcm.VcmError as error: print(error, error.messages)
 """
+    )
     assert run_python(code).splitlines() == [
         "LoadResult(loaded=2, duplicate=-1, bad=-1, messages=()) 299",
         "no message of key 4 is stored ()",

@@ -7,8 +7,8 @@
         record = vcm.get(key)
         print(record.satNum, record.epoch, record.posSigmas)
 
-There is one store in a process; the functions work on it, from any thread. What the library writes to its
-trace goes to the logger `vcm`. Every error is a VcmError.
+There is one store in a process; the functions work on it, from any thread. What the library writes
+to its trace goes to the logger `vcm`. Every error is a VcmError.
 """
 
 from .conversions import get_lines, to_arrays, to_lines, to_one_line, to_record

@@ -5,8 +5,8 @@ import importlib
 import sys
 from collections.abc import Sequence
 
-# Each is a module with `add_arguments(parser)` and `run(arguments) -> int`, imported when it is asked for,
-# since it may need what is not installed everywhere.
+# Each is a module with `add_arguments(parser)` and `run(arguments) -> int`, imported when it is
+# asked for, since it may need what is not installed everywhere.
 SUBCOMMANDS = {"plot": ("vcm.plot", "draws messages")}
 
 

@@ -4,7 +4,8 @@ from .errors import NotFoundError, RefusedError
 
 
 def encode(text: str) -> bytes:
-    """A text in latin-1; RefusedError for characters that it does not have, and for NUL, which ends a text."""
+    """A text in latin-1; RefusedError for characters that it does not have, and for NUL, which ends
+    a text."""
     try:
         encoded = text.encode("latin-1")
     except UnicodeEncodeError as error:

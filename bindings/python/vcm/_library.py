@@ -1,7 +1,7 @@
 """Finds libvcm and declares its functions.
 
-The library is loaded as `ctypes.CDLL`, which releases the interpreter lock for the length of each call;
-the trace sink (see `_trace`) depends on that.
+The library is loaded as `ctypes.CDLL`, which releases the interpreter lock for the length of each
+call; the trace sink (see `_trace`) depends on that.
 """
 
 import ctypes
@@ -14,7 +14,7 @@ from .errors import LibraryNotFoundError
 
 FILE_NAME = "libvcm.so.1"
 
-_key, _code, _bytes, _out = ctypes.c_int64, ctypes.c_int32, ctypes.c_char_p, ctypes.c_void_p
+_key, _code, _bytes, _out = (ctypes.c_int64, ctypes.c_int32, ctypes.c_char_p, ctypes.c_void_p)
 
 # Result and arguments. Arrays are addresses: of a ctypes array, or a plain integer.
 _FUNCTIONS = {
@@ -63,8 +63,8 @@ def _candidates() -> Iterator[str]:
 def load() -> ctypes.CDLL:
     """Loads libvcm and declares its functions.
 
-    The environment variable VCM_LIBRARY names the library and, where it is set, nothing else is tried.
-    Raises LibraryNotFoundError with everything that was tried.
+    The environment variable VCM_LIBRARY names the library and, where it is set, nothing else is
+    tried. Raises LibraryNotFoundError with everything that was tried.
     """
     chosen = os.environ.get("VCM_LIBRARY")
     tried = []

@@ -1,33 +1,34 @@
 """numpy, where it is installed: vectors and matrices are its arrays then, and tuples otherwise."""
 
-import importlib.util
-from collections.abc import Iterable
+from collections.abc import Sequence
 from typing import TYPE_CHECKING, Any
 
-if TYPE_CHECKING:
+try:
     import numpy as np
+except ImportError:
+    HAS_NUMPY = False
+else:
+    HAS_NUMPY = True
+
+if TYPE_CHECKING:
     import numpy.typing as npt
 
     Array = npt.NDArray[np.float64]
 
-HAS_NUMPY = importlib.util.find_spec("numpy") is not None
 
-
-def vector(values: Iterable[float]) -> Any:
+def vector(values: "Sequence[float] | Array") -> Any:
     """Numbers as an array that may not be changed."""
-    return _array(tuple(map(float, values)))
+    return _read_only(values) if HAS_NUMPY else tuple(map(float, values))
 
 
-def matrix(rows: Iterable[Iterable[float]]) -> Any:
+def matrix(rows: "Sequence[Sequence[float]] | Array") -> Any:
     """Rows of numbers as a matrix that may not be changed."""
-    return _array(tuple(tuple(map(float, row)) for row in rows))
+    if HAS_NUMPY:
+        return _read_only(rows)
+    return tuple(tuple(map(float, row)) for row in rows)
 
 
-def _array(values: tuple[Any, ...]) -> Any:
-    if not HAS_NUMPY:
-        return values
-    import numpy as np
-
+def _read_only(values: Any) -> "Array":
     result = np.array(values, dtype=np.float64)
     result.setflags(write=False)
     return result

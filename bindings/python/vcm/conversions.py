@@ -1,8 +1,7 @@
 """Messages from one form into another. The store is not touched; any thread may call any of these.
 
-Texts have latin-1 characters alone. Lines come with a newline at the end of each and without the blanks
-before it.
-"""
+Texts have latin-1 characters alone. Lines come with a newline at the end of each and without the
+blanks before it. """
 
 import ctypes
 from typing import TypeAlias
@@ -22,8 +21,8 @@ _MULTI_LINE_BEGIN = "<>"
 def to_one_line(message: Message) -> str:
     """A text in any form, a record or the array form as a one-line message.
 
-    The form has no place for the leap-second time, and five columns for the satellite number: a larger one
-    is asterisks. Raises RefusedError for a text that cannot be read.
+    The form has no place for the leap-second time, and five columns for the satellite number: a
+    larger one is asterisks. Raises RefusedError for a text that cannot be read.
     """
     buffer = ctypes.create_string_buffer(_layout.ONE_LINE_LENGTH)
     if isinstance(message, str):
@@ -39,8 +38,8 @@ def to_one_line(message: Message) -> str:
 def to_lines(message: Message) -> str:
     """A text in any form, a record or the array form as a multi-line message.
 
-    The leap-second time of a one-line message is 2049 365 23:59:59.999, which stands for an unknown one. Raises
-    RefusedError for a text that cannot be read.
+    The leap-second time of a one-line message is 2049 365 23:59:59.999, which stands for an unknown
+    one. Raises RefusedError for a text that cannot be read.
     """
     buffer = ctypes.create_string_buffer(_layout.TEXT_LENGTH)
     if isinstance(message, str) and not message.startswith(_MULTI_LINE_BEGIN):

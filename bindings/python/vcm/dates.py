@@ -26,14 +26,16 @@ def to_datetime(days: float) -> datetime:
 
 
 def to_days(date: datetime) -> float:
-    """The days since 1950 UTC of a date, rounded to the nearest double; one without a zone is UTC."""
+    """The days since 1950 UTC of a date, rounded to the nearest double; one without a zone is
+    UTC."""
     return (_utc(date) - _BASE) / _DAY
 
 
 def epoch_text(moment: Moment) -> str:
     """A date, or days since 1950, as the library's text yyyydddhhmmss.sss; a text is left as it is.
 
-    It is rounded to the millisecond, as the library rounds. Raises RefusedError as `to_datetime` does.
+    It is rounded to the millisecond, as the library rounds. Raises RefusedError as `to_datetime`
+    does.
     """
     if isinstance(moment, str):
         return moment

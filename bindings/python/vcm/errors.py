@@ -6,8 +6,8 @@ from collections.abc import Sequence
 class VcmError(Exception):
     """The base of all errors of this package.
 
-    `messages` holds the lines that the library wrote to its error trace during the call that failed;
-    it is empty where the host keeps its trace to itself.
+    `messages` holds the lines that the library wrote to its error trace during the call that
+    failed; it is empty where the host keeps its trace to itself.
     """
 
     messages: tuple[str, ...] = ()

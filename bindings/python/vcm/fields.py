@@ -4,10 +4,11 @@ import ctypes
 import math
 import operator
 from datetime import datetime
+from typing import Any
 
 from . import _layout
 from ._encoding import checked, encode
-from ._trace import call, errors, library
+from ._trace import call, call_holding, errors, library
 from .dates import Moment, epoch_text, to_datetime
 from .errors import NotFoundError, RefusedError
 from .messages import changing, contains, get_arrays, require_found
@@ -51,16 +52,14 @@ def get_field_text(satKey: int, name: str) -> str:
 def set_field(satKey: int, name: str, value: Moment) -> None:
     """Changes one field of a stored message; satellite number and epoch may not be changed.
 
-    A number may be given as text. A text longer than its field is cut. The leap-second time is a date, days
-    since 1950 UTC or a text yyyydddhhmmss.sss, and is kept to the millisecond. Of several threads that set
-    fields of one message, no change is lost. Raises NotFoundError, and RefusedError for a name that is
-    none of FIELD_NAMES or a value that does not fit.
+    A number may be given as text. A text longer than its field is cut. The leap-second time is a
+    date, days since 1950 UTC or a text yyyydddhhmmss.sss, and is kept to the millisecond. Of
+    several threads that set fields of one message, no change is lost. Raises NotFoundError, and
+    RefusedError for a name that is none of FIELD_NAMES or a value that does not fit.
     """
     text = _value_text(name, value)
-    with changing:
-        code, lines = call(
-            library().VcmSetField, checked(satKey, 64), _index(name), encode(text)
-        )
+    change = library().VcmSetField
+    code, lines = call_holding(changing, change, checked(satKey, 64), _index(name), encode(text))
     if code != 0:
         error = RefusedError if contains(satKey) else NotFoundError
         raise error(f"{name} of key {satKey} is not set", errors(lines))
@@ -78,15 +77,13 @@ def _value_text(name: str, value: Moment) -> str:
         return str(value)
     if name in _layout.DATES:
         return epoch_text(value)
+    given: Any = value
     try:
-        if name in _layout.INTEGERS:
-            number = int(value) if isinstance(value, str) else operator.index(value)  # type: ignore[arg-type]
-            fits = number in _INT32
-        else:
-            number = float(value)  # type: ignore[arg-type, assignment]
-            fits = math.isfinite(number)
+        if name not in _layout.INTEGERS:
+            if math.isfinite(number := float(given)):
+                return repr(number)
+        elif (number := int(given) if isinstance(given, str) else operator.index(given)) in _INT32:
+            return repr(number)
     except (TypeError, ValueError):
-        fits = False
-    if not fits:
-        raise RefusedError(f"{value!r} is no value of {name}")
-    return repr(number)
+        pass
+    raise RefusedError(f"{value!r} is no value of {name}")

@@ -9,8 +9,9 @@ from .record import Record
 class Store(Mapping[int, Record]):
     """The stored messages by key, in the order of satellite number and epoch.
 
-    There is one store in a process; this is a view of it. A key that is not stored raises NotFoundError, which
-    is a KeyError; assigning replaces a message that is stored, as `vcm.update` does, and never adds one.
+    There is one store in a process; this is a view of it. A key that is not stored raises
+    NotFoundError, which is a KeyError; assigning replaces a message that is stored, as `vcm.update`
+    does, and never adds one.
     """
 
     def __len__(self) -> int:

@@ -1,8 +1,7 @@
 """The messages of the store: there is one store in a process, and these functions work on it.
 
-Any thread may call any of them. Listing waits for `load` and `add` of other threads, and they for one
-another: the library asks that nothing be added while keys are listed.
-"""
+Any thread may call any of them. Listing waits for `load` and `add` of other threads, and they for
+one another: the library asks that nothing be added while keys are listed. """
 
 import ctypes
 import re
@@ -12,15 +11,15 @@ from typing import TypeVar
 
 from . import _layout, _trace
 from ._encoding import checked, encode
-from ._trace import Line, call, errors, library
+from ._trace import Line, call, call_holding, errors, library
 from .dates import Moment, epoch_text
 from .errors import DuplicateError, NotFoundError, RefusedError, VcmError
 from .record import Arrays, Buffers, Record
 
 # Held while messages are added, and while keys are listed.
 growing = threading.RLock()
-# Held while messages are changed: the library reads a message, changes a field and writes all of it back, and
-# one thread's change could undo another's.
+# Held while messages are changed: the library reads a message, changes a field and writes all of it
+# back, and one thread's change could undo another's.
 changing = threading.RLock()
 
 _NO_KEY = -1
@@ -56,14 +55,17 @@ def count() -> int:
 
 def keys(order: Order = Order.SATELLITE) -> list[int]:
     """The keys of all stored messages."""
-    with growing:
-        room = count()
-        if room == 0:
-            return []
-        # What another thread removes meanwhile leaves its place as it is.
-        found = (ctypes.c_int64 * room)(*[_NO_KEY] * room)
-        call(library().VcmGetLoaded, int(order), found)
+    found, _ = call_holding(growing, _keys, int(order))
+    # What another thread removes meanwhile leaves its place as it is.
     return [key for key in found if key != _NO_KEY]
+
+
+def _keys(order: int) -> "ctypes.Array[ctypes.c_int64]":
+    room = library().VcmGetCount()
+    found = (ctypes.c_int64 * room)(*[_NO_KEY] * room)
+    if room > 0:
+        library().VcmGetLoaded(order, found)
+    return found  # type: ignore[no-any-return]
 
 
 def find(satNum: int) -> int:
@@ -81,7 +83,8 @@ def key(satNum: int, epoch: Moment) -> int:
     """The key that a message of this satellite and epoch has; it need not be stored.
 
     `epoch` is a date (without a zone: UTC), days since 1950 UTC, or the library's text
-    "YYYYDDDHHMMSS.SSS" or "YYDDD.DDDDDDDD". Raises RefusedError when the number or the epoch is none.
+    "YYYYDDDHHMMSS.SSS" or "YYDDD.DDDDDDDD". Raises RefusedError when the number or the epoch is
+    none.
     """
     text = epoch_text(epoch)
     made, _ = call(library().VcmFieldsToSatKey, checked(satNum, 32), encode(text))
@@ -98,7 +101,9 @@ def get(satKey: int) -> Record:
 def get_arrays(satKey: int) -> Arrays:
     """The message of a key, in the array form. Raises NotFoundError."""
     buffers = Buffers()
-    code, lines = call(library().VcmRetrieveAllData, checked(satKey, 64), buffers.texts, buffers.numbers)
+    code, lines = call(
+        library().VcmRetrieveAllData, checked(satKey, 64), buffers.texts, buffers.numbers
+    )
     require_found(satKey, code, lines)
     return buffers.arrays()
 
@@ -113,18 +118,19 @@ def contains(satKey: int) -> bool:
 def add(message: str | Record | Arrays) -> int:
     """Adds a message, given as text (one-line or lines), as a record or in the array form.
 
-    Returns its key. Raises DuplicateError, with the key of its twin, when the same message (satellite,
-    epoch, ECI state, ballistic and radiation pressure coefficient) is stored already; RefusedError when the
-    text cannot be read or a value is outside its limits. Messages of one satellite and epoch that differ
-    are kept both: the later one gets the next free key.
+    Returns its key. Raises DuplicateError, with the key of its twin, when the same message
+    (satellite, epoch, ECI state, ballistic and radiation pressure coefficient) is stored already;
+    RefusedError when the text cannot be read or a value is outside its limits. Messages of one
+    satellite and epoch that differ are kept both: the later one gets the next free key.
     """
-    with growing:
-        if isinstance(message, str):
-            added, lines = call(library().VcmAddSatFrLines, encode(message))
-        else:
-            arrays = message.to_arrays() if isinstance(message, Record) else message
-            buffers = Buffers(arrays)
-            added, lines = call(library().VcmAddSatFrFields, buffers.texts, buffers.numbers)
+    if isinstance(message, str):
+        text = encode(message)
+        added, lines = call_holding(growing, library().VcmAddSatFrLines, text)
+    else:
+        buffers = Buffers(message.to_arrays() if isinstance(message, Record) else message)
+        added, lines = call_holding(
+            growing, library().VcmAddSatFrFields, buffers.texts, buffers.numbers
+        )
     if added == _NO_KEY:
         raise RefusedError("the message is refused", errors(lines))
     if added == _DUPLICATE:
@@ -142,15 +148,15 @@ def _duplicate(messages: list[str]) -> DuplicateError:
 def update(satKey: int, record: Record | Arrays) -> None:
     """Replaces a stored message, all but its satellite number and epoch.
 
-    What a record does not carry, the common name and maneuver cards, is lost. The new values are not held
-    against limits. Raises NotFoundError.
+    What a record does not carry, the common name and maneuver cards, is lost. The new values are
+    not held against limits. Raises NotFoundError.
     """
     arrays = record.to_arrays() if isinstance(record, Record) else record
     buffers = Buffers(arrays)
-    with changing:
-        code, lines = call(
-            library().VcmUpdateSatFrFields, checked(satKey, 64), buffers.texts, buffers.numbers
-        )
+    replace = library().VcmUpdateSatFrFields
+    code, lines = call_holding(
+        changing, replace, checked(satKey, 64), buffers.texts, buffers.numbers
+    )
     if code != 0 and contains(satKey):
         raise RefusedError(f"the message of key {satKey} is not to be changed", errors(lines))
     require_found(satKey, code, lines)

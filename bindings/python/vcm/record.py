@@ -2,6 +2,7 @@
 
 import ctypes
 import dataclasses
+from array import array
 from collections.abc import Sequence
 from dataclasses import dataclass
 from datetime import datetime
@@ -17,6 +18,10 @@ if TYPE_CHECKING:
     from ._optional import Array
 
 
+_ZERO: Any = (0.0, 0.0, 0.0)  # made an array when a record is made, as the next
+_NONE: Any = ()
+
+
 class Arrays(NamedTuple):
     """A message in the array form of the C interface: 512 numbers and 512 characters."""
 
@@ -28,23 +33,24 @@ class Arrays(NamedTuple):
 class Record:
     """One message. It is not bound to the store: changing what is stored takes `vcm.update`.
 
-    Fields are named as in the C interface. Vectors and the covariance are numpy arrays that may not be
-    written, or tuples where numpy is not installed; any sequence may be given for them. The covariance is
-    the symmetric n x n matrix of the equinoctial elements af, ag, L, n, chi, psi, B, Bdot, AGOM.
-    `epochDays` and `leapSecondDays` are the library's own days since 1950 UTC; `epoch` and
-    `leapSecondTime` the same as dates. What the form leaves out are a common name and maneuver cards.
+    Fields are named as in the C interface. Vectors and the covariance are numpy arrays that may not
+    be written, or tuples where numpy is not installed; any sequence may be given for them. The
+    covariance is the symmetric n x n matrix of the equinoctial elements af, ag, L, n, chi, psi, B,
+    Bdot, AGOM. `epochDays` and `leapSecondDays` are the library's own days since 1950 UTC; `epoch`
+    and `leapSecondTime` the same as dates. What the form leaves out are a common name and maneuver
+    cards.
     """
 
     satNum: int = 0
     intlDes: str = ""
     epochDays: float = 0.0
     epochRev: int = 0
-    j2kPos: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km; made an array below
-    j2kVel: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
-    eciPos: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # true of date, km
-    eciVel: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
-    efgPos: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # Earth-fixed, km
-    efgVel: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
+    j2kPos: "Array" = _ZERO  # km
+    j2kVel: "Array" = _ZERO  # km/s
+    eciPos: "Array" = _ZERO  # true of date, km
+    eciVel: "Array" = _ZERO  # km/s
+    efgPos: "Array" = _ZERO  # Earth-fixed, km
+    efgVel: "Array" = _ZERO  # km/s
     geoName: str = ""
     geoZonals: int = 0
     geoTesserals: int = 0
@@ -77,10 +83,10 @@ class Record:
     stepSelection: str = ""
     initStepSize: float = 0.0  # s
     errorControl: float = 0.0
-    posSigmas: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # U, V, W, km
-    velSigmas: "Array" = (0.0, 0.0, 0.0)  # type: ignore[assignment]  # km/s
+    posSigmas: "Array" = _ZERO  # U, V, W, km
+    velSigmas: "Array" = _ZERO  # km/s
     wtdRms: float = 0.0
-    covariance: "Array" = ()  # type: ignore[assignment]
+    covariance: "Array" = _NONE
 
     def __post_init__(self) -> None:
         for name in _layout.COMPONENTS:
@@ -90,11 +96,14 @@ class Record:
         object.__setattr__(self, "covariance", matrix(self.covariance))
         n = len(self.covariance)
         if n > len(_layout.ELEMENTS) or any(len(row) != n for row in self.covariance):
-            raise RefusedError(f"covariance is a square matrix of at most {len(_layout.ELEMENTS)} rows")
+            raise RefusedError(
+                f"covariance is a square matrix of at most {len(_layout.ELEMENTS)} rows"
+            )
 
     @property
     def epoch(self) -> datetime:
-        """The epoch, in UTC, to the microsecond. Raises RefusedError outside the years 1 to 9999."""
+        """The epoch, in UTC, to the microsecond. Raises RefusedError outside the years 1 to
+        9999."""
         return to_datetime(self.epochDays)
 
     @property
@@ -108,7 +117,8 @@ class Record:
         return len(self.covariance)
 
     def replace(self, **changes: Any) -> "Record":
-        """The same record with some fields changed; `epoch` and `leapSecondTime` may be given as dates."""
+        """The same record with some fields changed; `epoch` and `leapSecondTime` may be given as
+        dates."""
         for name in _layout.DATES & changes.keys():
             changes[_DAYS[name]] = to_days(changes.pop(name))
         return dataclasses.replace(self, **changes)
@@ -123,7 +133,9 @@ class Record:
         numbers = [0.0] * _layout.NUM_ARRAY_LENGTH
         for name, (first, length) in _layout.NUMBERS.items():
             if name == "covariance":
-                triangle = [self.covariance[i][j] for i in range(self.covMtxSize) for j in range(i + 1)]
+                triangle = [
+                    self.covariance[i][j] for i in range(self.covMtxSize) for j in range(i + 1)
+                ]
                 numbers[first : first + len(triangle)] = map(float, triangle)
             elif length > 1:
                 numbers[first : first + length] = map(float, getattr(self, name))
@@ -158,10 +170,15 @@ _DAYS = {"epoch": "epochDays", "leapSecondTime": "leapSecondDays"}
 def _square(numbers: Sequence[float], first: int) -> list[list[float]]:
     """Both triangles of the covariance, from the rows of the lower one."""
     n = max(0, min(int(numbers[_layout.NUMBERS["covMtxSize"][0]]), len(_layout.ELEMENTS)))
-    return [
-        [numbers[first + max(i, j) * (max(i, j) + 1) // 2 + min(i, j)] for j in range(n)]
-        for i in range(n)
-    ]
+    triangle = numbers[first : first + n * (n + 1) // 2]
+    return [[triangle[place] for place in row[:n]] for row in _PLACES[:n]]
+
+
+# Of each element of the covariance, its place in the lower triangle.
+_PLACES = [
+    [max(i, j) * (max(i, j) + 1) // 2 + min(i, j) for j in range(len(_layout.ELEMENTS))]
+    for i in range(len(_layout.ELEMENTS))
+]
 
 
 class Buffers:
@@ -174,9 +191,13 @@ class Buffers:
             numbers, texts = arrays
             if len(numbers) > len(self.numbers) or len(texts) > len(self.texts):
                 raise RefusedError("the array form has 512 numbers and 512 characters")
-            self.numbers[: len(numbers)] = list(map(float, numbers))
+            self._view()[: len(numbers)] = memoryview(array("d", numbers))
             self.texts.raw = encode(texts).ljust(len(self.texts))
 
     def arrays(self) -> Arrays:
         """What they hold."""
-        return Arrays(list(self.numbers), self.texts.raw.decode("latin-1"))
+        return Arrays(self._view().tolist(), self.texts.raw.decode("latin-1"))
+
+    def _view(self) -> memoryview:
+        """The numbers without ctypes, which goes through them one by one."""
+        return memoryview(self.numbers).cast("B").cast("d")

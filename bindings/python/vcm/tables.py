@@ -6,7 +6,7 @@ from typing import TYPE_CHECKING, Any
 
 from . import _layout, messages
 from ._trace import call, errors, library
-from .errors import NotFoundError
+from .errors import NotFoundError, RefusedError
 from .messages import Order
 
 if TYPE_CHECKING:
@@ -20,7 +20,7 @@ class _Column:
     """One column: its type, and where it stands in the array form."""
 
     def __init__(self, dtype: str, position: int, length: int = 1, is_date: bool = False) -> None:
-        self.dtype, self.position, self.length, self.is_date = dtype, position, length, is_date
+        self.dtype, self.position, self.length, self.is_date = (dtype, position, length, is_date)
 
 
 def _layout_columns() -> Iterator[tuple[str, _Column]]:
@@ -51,18 +51,20 @@ def table(
 ) -> "npt.NDArray[np.void]":
     """Stored messages as a numpy structured array of scalar columns: all, or those of `keys`.
 
-    `pandas.DataFrame(vcm.table())` takes it as it is. The columns are `satKey` and the record's fields:
-    vectors as eciPosX, posSigmasU and so on, `epoch` and `leapSecondTime` as datetime64[us] beside the
-    exact `epochDays` and `leapSecondDays`, the covariance's lower triangle as cov_af_af, cov_ag_af, ... to
-    cov_AGOM_AGOM. `columns` chooses some, in the order given.
+    `pandas.DataFrame(vcm.table())` takes it as it is. The columns are `satKey` and the record's
+    fields: vectors as eciPosX, posSigmasU and so on, `epoch` and `leapSecondTime` as datetime64[us]
+    beside the exact `epochDays` and `leapSecondDays`, the covariance's lower triangle as cov_af_af,
+    cov_ag_af, ... to cov_AGOM_AGOM. `columns` chooses some, in the order given.
 
-    Messages that another thread removes meanwhile are left out of the whole store; of `keys` that are not
-    stored, the first is told by NotFoundError. Raises KeyError for a column that is none, ImportError
-    without numpy.
+    Messages that another thread removes meanwhile are left out of the whole store; of `keys` that
+    are not stored, the first is told by NotFoundError. Raises RefusedError for a column that is
+    none, ImportError without numpy.
     """
     import numpy as np
 
     chosen = ["satKey", *_COLUMNS] if columns is None else list(columns)
+    if unknown := [name for name in chosen if name != "satKey" and name not in _COLUMNS]:
+        raise RefusedError(f"no column is named {', '.join(unknown)}")
     dtypes = [(name, "i8" if name == "satKey" else _COLUMNS[name].dtype) for name in chosen]
     every = np.array(messages.keys(order) if keys is None else list(keys), dtype=np.int64)
     result = np.zeros(len(every), dtype=dtypes)
@@ -77,7 +79,7 @@ def table(
             missing = int(wanted[~found][0])
             raise NotFoundError(f"no message of key {missing} is stored", errors(lines)[:1])
         rows = result[filled : filled + int(found.sum())]
-        got_numbers, got_texts = numbers[: len(wanted)][found], texts[: len(wanted)][found]
+        got_numbers, got_texts = (numbers[: len(wanted)][found], texts[: len(wanted)][found])
         for name in chosen:
             if name == "satKey":
                 rows[name] = wanted[found]
