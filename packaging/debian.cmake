@@ -3,7 +3,9 @@
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME libvcm)
 set(CPACK_PACKAGE_VENDOR "The libvcm developers")
-set(CPACK_PACKAGE_CONTACT "The libvcm developers <libvcm@localhost>")
+set(CPACK_PACKAGE_CONTACT "The libvcm developers <developers@libvcm.example>")
+# Each package has a summary of its own.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
@@ -13,6 +15,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/host")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(runtime_package "libvcm${VCM_SOVERSION}")
@@ -39,26 +42,40 @@ endfunction()
 
 debian_package(runtime "${runtime_package}" libs
   "in-memory store of SP Vector/Covariance Messages"
-  "libvcm keeps SP Vector/Covariance Messages (VCMs) of satellites in memory: it loads and saves files, takes text and arrays, finds messages by a 64-bit key, reads and changes their fields, and converts between all forms. This package holds the shared library and the host that it comes with.")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_SOURCE_DIR}/debian/triggers")
+  "libvcm keeps SP Vector/Covariance Messages (VCMs) of satellites in memory:
+it loads and saves files, takes text and arrays, finds messages by a 64-bit
+key, reads and changes their fields, and converts between all forms. This
+package holds the shared library and the host that it comes with.")
+configure_file(debian/shlibs.in debian/shlibs @ONLY)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
+  "${CMAKE_CURRENT_SOURCE_DIR}/debian/triggers" "${CMAKE_CURRENT_BINARY_DIR}/debian/shlibs")
 
 debian_package(development libvcm-dev libdevel
   "in-memory store of SP Vector/Covariance Messages - development"
-  "libvcm keeps SP Vector/Covariance Messages (VCMs) of satellites in memory. This package holds what programs in C, C++ and Fortran are built with: the header, a CMake package, a pkg-config file and the manual page.")
+  "libvcm keeps SP Vector/Covariance Messages (VCMs) of satellites in memory.
+This package holds what programs in C, C++ and Fortran are built with: the
+header, a CMake package, a pkg-config file and the manual page.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
 
 debian_package(program vcm science
   "lists, shows, checks, compares, converts and edits files of VCMs"
-  "vcm works on files of SP Vector/Covariance Messages (VCMs) of satellites: it lists and shows what they hold, says what is wrong in them, compares two files, changes fields, and converts between the multi-line and one-line forms, JSON and CSV.")
+  "vcm works on files of SP Vector/Covariance Messages (VCMs) of satellites: it
+lists and shows what they hold, says what is wrong in them, compares two
+files, changes fields, and converts between the multi-line and one-line
+forms, JSON and CSV.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "bash-completion")
 
 debian_package(python python3-vcm python
   "in-memory store of SP Vector/Covariance Messages - Python 3"
-  "libvcm keeps SP Vector/Covariance Messages (VCMs) of satellites in memory. This package is its Python interface: records as typed objects, the store as a numpy array, and pictures of a catalogue.")
+  "libvcm keeps SP Vector/Covariance Messages (VCMs) of satellites in memory.
+This package is its Python interface: records as typed objects, the store as
+a numpy array, and pictures of a catalogue.")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SHLIBDEPS OFF)
+# Modules are compiled when the package comes, and what was compiled goes with it.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA
+  "${CMAKE_CURRENT_SOURCE_DIR}/debian/python/postinst" "${CMAKE_CURRENT_SOURCE_DIR}/debian/python/prerm")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "python3 (>= 3.11), ${runtime_package} (>= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS "python3-numpy")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-matplotlib, python3-pandas")

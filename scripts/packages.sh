@@ -1,6 +1,12 @@
 # Sourced by the other scripts: installs the Debian packages that a step needs and lacks.
 # usage: need_packages PACKAGE...
 
+# Debian's own programs before others of their names: another Python does not see Debian's modules.
+PATH=$(getconf PATH):/usr/sbin:/sbin:$PATH
+
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+
 need_packages() {
   local missing=() package
   for package in "$@"; do
@@ -8,15 +14,15 @@ need_packages() {
       missing+=("$package")
   done
   [ "${#missing[@]}" -eq 0 ] && return 0
-  local root=()
-  [ "$(id -u)" -eq 0 ] || root=(sudo)
   echo "Installing ${missing[*]}"
-  "${root[@]}" apt-get update -qq
-  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "${missing[@]}" >/dev/null
 }
 
 build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev nlohmann-json3-dev)
-test_packages=(libgtest-dev python3 binutils pkg-config make doxygen mandoc gfortran)
+test_packages=(libgtest-dev binutils pkg-config make gfortran doxygen mandoc
+  python3 python3-pytest mypy python3-numpy python3-pandas python3-matplotlib python3-distributed)
 benchmark_packages=(libbenchmark-dev gfortran python3)
 fuzz_packages=(clang libclang-rt-dev llvm)
+package_packages=(dpkg-dev file lintian)

@@ -72,6 +72,13 @@ constexpr FieldKind kindOf(const FixedText<N>&) {
   return FieldKind::text;
 }
 
+FieldValue valueOf(double member) { return member; }
+FieldValue valueOf(const InputDate& member) { return inputDateToDs50(member); }
+template <std::size_t N>
+FieldValue valueOf(const FixedText<N>& member) {
+  return withoutLeadingBlanks(withoutTrailingBlanks(member.view()));
+}
+
 template <auto Member, class Format, std::size_t... Component>
 constexpr SingleField row(std::int32_t index, std::string_view name) {
   constexpr Field kField = field<Member, Format, Component...>({}, Column{1});
@@ -84,6 +91,7 @@ constexpr SingleField row(std::int32_t index, std::string_view name) {
           [](const VcmRecord& record, char* out) {
             Format::write(memberOf<Member, Component...>(record), out);
           },
+          [](const VcmRecord& record) { return valueOf(memberOf<Member, Component...>(record)); },
           kField.read,
           {},
           kField.look};

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <variant>
 
 #include "VCM/VcmFormats/Look.h"
 #include "VCM/VcmTypes/VcmRecord.h"
@@ -13,6 +14,9 @@ namespace vcm {
 
 enum class FieldKind { integer, real, text, date };
 
+// A number, a date as days since 1950, or a text without blanks around it.
+using FieldValue = std::variant<double, std::string_view>;
+
 struct SingleField {
   std::int32_t index;
   std::string_view name;
@@ -20,6 +24,8 @@ struct SingleField {
   int width;
   // Fills `width` characters at `out`.
   void (*write)(const VcmRecord& record, char* out);
+  // What comparisons go by, in the record's unit; a text is the record's own.
+  FieldValue (*value)(const VcmRecord& record);
   // Takes a value that begins with its first character that is no blank. False when it cannot be
   // read: then the member keeps its value. Null for a field that makes up the record's key.
   bool (*read)(std::string_view value, VcmRecord& record);

@@ -1,0 +1,136 @@
+"""What the library says: to the logger, to several threads, under several hosts."""
+
+import logging
+import os
+import random
+import sys
+import threading
+from collections.abc import Callable
+from functools import partial
+from pathlib import Path
+
+import pytest
+import vcm
+from conftest import CATALOGUE, SAMPLES, message, run_python
+
+
+def side_by_side(*actions: Callable[[], None]) -> None:
+    """Runs them in threads that take turns far more often than usual; raises the first error."""
+    errors: list[BaseException] = []
+
+    def guarded(action: Callable[[], None]) -> None:
+        try:
+            action()
+        except BaseException as error:
+            errors.append(error)
+
+    before = sys.getswitchinterval()
+    sys.setswitchinterval(1e-6)
+    threads = [threading.Thread(target=guarded, args=[action]) for action in actions]
+    for thread in threads:
+        thread.start()
+    for thread in threads:
+        thread.join()
+    sys.setswitchinterval(before)
+    if errors:
+        raise errors[0]
+
+
+def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture) -> None:
+    caplog.set_level(logging.INFO, "vcm")
+    result = vcm.load(SAMPLES / "broken.vcm")
+    told = [(record.levelno, record.getMessage()) for record in caplog.records]
+    assert result.messages == tuple(text for level, text in told if level == logging.ERROR) != ()
+    assert told[0][0] == told[-1][0] == logging.INFO and told[-1][1].startswith("Total VCMs =")
+    caplog.clear()
+    assert 5 not in vcm.store and not caplog.records
+
+
+def test_threads_do_not_see_each_others_lines(tmp_path: Path) -> None:
+    class Nosy(logging.Handler):
+        """Asks the library about each line, with the handler's lock held."""
+
+        def emit(self, record: logging.LogRecord) -> None:
+            vcm.keys()
+
+    def load(number: int) -> None:
+        generator = random.Random(number)
+        for i in range(10):
+            good, twins, bad = (generator.randrange(1, 30) for _ in range(3))
+            texts = [message(1000 * number + 30 * i + n) for n in range(good)]
+            texts += [texts[0]] * twins + [message(9, "ECI POS", "ECI PIS")] * bad
+            path = tmp_path / f"{number}-{i}"
+            path.write_text("".join(texts))
+            result = vcm.load(path)
+            assert (result.loaded, result.duplicate, result.bad) == (good, twins, bad), path
+            assert len(result.messages) == twins + bad, path
+
+    def ask(first: int) -> None:
+        for key in range(first, first + 800, 2):
+            with pytest.raises(vcm.NotFoundError) as caught:
+                vcm.get(key)
+            assert len(caught.value.messages) == 1 and f" {key} " in str(caught.value), key
+
+    handler = Nosy()
+    logging.getLogger("vcm").addHandler(handler)
+    try:
+        side_by_side(*(partial(load, n) for n in (1, 2, 3)), partial(ask, 10), partial(ask, 5010))
+    finally:
+        logging.getLogger("vcm").removeHandler(handler)
+
+
+def test_fields_set_by_several_threads_are_all_kept() -> None:
+    key = vcm.add(message(1))
+
+    def change(name: str) -> None:
+        for value in range(300):
+            vcm.set_field(key, name, value)
+            assert vcm.get_field(key, name) == value, name
+
+    side_by_side(*(partial(change, name) for name in ("bTerm", "agom", "cmOffset", "avgAp")))
+
+
+def test_a_load_leaves_the_interpreter_to_others(tmp_path: Path) -> None:
+    """It waits for a pipe that this thread fills: for ever, if it held the interpreter."""
+    pipe = tmp_path / "pipe"
+    os.mkfifo(pipe)
+    results: list[vcm.LoadResult] = []
+    loading = threading.Thread(target=lambda: results.append(vcm.load(pipe)), daemon=True)
+    loading.start()
+    with open(pipe, "w") as stream:
+        for satellite in range(1, 101):
+            stream.write(message(satellite))
+    loading.join()
+    assert results == [vcm.LoadResult(100, 0, 0)]
+
+
+def test_the_log_file_of_the_host_goes_on(tmp_path: Path) -> None:
+    log = tmp_path / "log"
+    code = f"import vcm\nprint(vcm.load({str(SAMPLES / 'broken.vcm')!r}).messages)\n4 in vcm.store"
+    shown = run_python(code, HOST_TRACE_LOG=str(log))
+    lines = [line.strip() for line in log.read_text().splitlines()]
+    assert shown == f"{tuple(lines[1:-2])}\n" and "Total VCMs" in lines[-2] and " 4 " in lines[-1]
+
+
+def test_a_host_without_a_sink() -> None:
+    """Counts come from the store, errors have a text of the package's own."""
+    code = f"""
+import vcm._library
+class Mute:
+    def __init__(self, library): self.library = library
+    def __getattr__(self, name):
+        if name == 'hosttracesink': raise AttributeError(name)
+        return getattr(self.library, name)
+load = vcm._library.load
+vcm._library.load = lambda: Mute(load())
+print(vcm.load({str(SAMPLES / "broken.vcm")!r}), vcm.load({str(CATALOGUE)!r}).loaded)
+for wrong in (lambda: vcm.get(4), lambda: vcm.add('x'), lambda: vcm.add(vcm.get(vcm.keys()[0]))):
+    try: wrong()
+    except vcm.VcmError as error: print(error, error.messages)
+"""
+    assert run_python(code).splitlines() == [
+        "LoadResult(loaded=2, duplicate=-1, bad=-1, messages=()) 299",
+        "no message of key 4 is stored ()",
+        "the message is refused ()",
+        "the same message is stored already ()",
+    ]

@@ -1,0 +1,34 @@
+"""numpy, where it is installed: vectors and matrices are its arrays then, and tuples otherwise."""
+
+from collections.abc import Sequence
+from typing import TYPE_CHECKING, Any
+
+try:
+    import numpy as np
+except ImportError:
+    HAS_NUMPY = False
+else:
+    HAS_NUMPY = True
+
+if TYPE_CHECKING:
+    import numpy.typing as npt
+
+    Array = npt.NDArray[np.float64]
+
+
+def vector(values: "Sequence[float] | Array") -> Any:
+    """Numbers as an array that may not be changed."""
+    return _read_only(values) if HAS_NUMPY else tuple(map(float, values))
+
+
+def matrix(rows: "Sequence[Sequence[float]] | Array") -> Any:
+    """Rows of numbers as a matrix that may not be changed."""
+    if HAS_NUMPY:
+        return _read_only(rows)
+    return tuple(tuple(map(float, row)) for row in rows)
+
+
+def _read_only(values: Any) -> "Array":
+    result = np.array(values, dtype=np.float64)
+    result.setflags(write=False)
+    return result
