@@ -5,8 +5,8 @@
     vcm.load("samples/catalogue.vcm")
     vcm.plot.catalogue(vcm.table()).savefig("catalogue.png")
 
-They need numpy and matplotlib (Debian: python3-matplotlib), and no display: a figure is made without pyplot.
-Each draws into the `figure` that is given, or else makes one, and returns it.
+They need numpy and matplotlib (Debian: python3-matplotlib), and no display: a figure is made
+without pyplot. Each draws into the `figure` that is given, or else makes one, and returns it.
 """
 
 from typing import TYPE_CHECKING, Any
@@ -25,8 +25,8 @@ __all__ = ["add_arguments", "catalogue", "covariance", "epochs", "run"]
 def catalogue(table: Any, *, title: str = "", figure: "Figure | None" = None) -> "Figure":
     """Inclination against the altitudes of perigee and apogee, and beside it epochs over time.
 
-    `table` is of `vcm.table()`, or a frame made of it; needed are the columns epoch, eciPosX to Z and eciVelX
-    to Z. What has no place in the picture, open orbits and the like, is told below it.
+    `table` is of `vcm.table()`, or a frame made of it; needed are the columns epoch, eciPosX to Z
+    and eciVelX to Z. What has no place in the picture, open orbits and the like, is told below it.
     """
     from . import overview
 
@@ -41,10 +41,10 @@ def epochs(table: Any, *, title: str = "", figure: "Figure | None" = None) -> "F
 
 
 def covariance(record: Record, *, title: str = "", figure: "Figure | None" = None) -> "Figure":
-    """The correlations in a record's covariance, and beside them the sigmas of position and velocity.
+    """The correlations of a record's covariance, and beside them its position and velocity sigmas.
 
-    Raises ValueError for a record without a covariance. What is no correlation, because a variance is not
-    positive, stays grey and is told below.
+    Raises ValueError for a record without a covariance. What is no correlation, because a variance
+    is not positive, stays grey and is told below.
     """
     from . import uncertainty
 

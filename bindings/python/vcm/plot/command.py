@@ -1,7 +1,7 @@
 """`python3 -m vcm plot`.
 
-It ends as the program `vcm` does: with 0 when all was fine, 1 when something in the input was bad, 2 for wrong
-usage or a file that cannot be opened. A picture is drawn of what is good all the same.
+It ends as the program `vcm` does: with 0 when all was fine, 1 when something in the input was bad,
+2 for wrong usage or a file that cannot be opened. What is good is drawn all the same.
 """
 
 import argparse
@@ -27,15 +27,30 @@ class _Failure(Exception):
 def add_arguments(parser: argparse.ArgumentParser) -> None:
     """The arguments of `plot`."""
     parser.description = (
-        "Draws the messages of a file: inclinations, altitudes and epochs of all, or the covariance of one satellite."
+        "Draws the messages of a file: inclinations, altitudes and epochs of all,"
+        " or the covariance of one satellite."
     )
     parser.add_argument("file", metavar="FILE", help="the messages, in lines or one-line")
-    parser.add_argument("-o", "--output", metavar="PICTURE", type=_picture,
-                        help="the picture, .png, .svg or .pdf; without it a window opens")  # fmt: skip
-    parser.add_argument("-s", "--satellite", metavar="NUMBER", type=int,
-                        help="the satellite whose covariance is drawn, of its newest message")  # fmt: skip
-    parser.add_argument("-k", "--kind", choices=("catalogue", "epochs", "covariance"),
-                        help="what is drawn; otherwise covariance with --satellite, else catalogue")  # fmt: skip
+    parser.add_argument(
+        "-o",
+        "--output",
+        metavar="PICTURE",
+        type=_picture,
+        help="the picture, .png, .svg or .pdf; without it a window opens",
+    )
+    parser.add_argument(
+        "-s",
+        "--satellite",
+        metavar="NUMBER",
+        type=int,
+        help="the satellite whose covariance is drawn, of its newest message",
+    )
+    parser.add_argument(
+        "-k",
+        "--kind",
+        choices=("catalogue", "epochs", "covariance"),
+        help="what is drawn; otherwise covariance with --satellite, else catalogue",
+    )
     parser.add_argument("--title", help="what stands above the picture")
     parser.add_argument("--dpi", type=_dpi, default=150, help="dots per inch, 150 if not given")
     parser.set_defaults(usage_error=parser.error)
@@ -73,8 +88,9 @@ def _load(path: str) -> int:
         print(line, file=sys.stderr)
     if messages.count() == 0:
         raise _Failure(_BAD_INPUT, f"{path}: no messages to draw")
-    # That a message stands in a file twice does not make it bad.
-    return _BAD_INPUT if any("Duplicated" not in line for line in result.messages) else _FINE
+    # That a message stands there twice does not make it bad.
+    bad = (line for line in result.messages if not line.startswith("AddRecToMem: Duplicated"))
+    return _BAD_INPUT if any(bad) else _FINE
 
 
 def _table(arguments: argparse.Namespace, kind: str) -> Callable[[Any], Any]:
@@ -101,10 +117,12 @@ def _covariance(arguments: argparse.Namespace) -> Callable[[Any], Any]:
     record = messages.get(int(newest["satKey"]))
     epoch = to_datetime(record.epochDays).isoformat(" ", "milliseconds").removesuffix("+00:00")
     if record.covMtxSize == 0:
-        raise _Failure(_BAD_INPUT, f"{file}: the message of satellite {satellite} at {epoch} has no covariance")
-    for note in uncertainty.notes(record):
+        raise _Failure(_BAD_INPUT, f"{file}: satellite {satellite} has no covariance at {epoch}")
+    several = [f"drawn is the newest of {len(own)} messages"] if len(own) > 1 else []
+    for note in several + uncertainty.notes(record):
         _tell(f"{file}: satellite {satellite}: {note}")
-    title = _title(arguments, f"Satellite {satellite} ({record.intlDes}), {epoch} UTC")
+    designator = f" ({record.intlDes})" if record.intlDes else ""
+    title = _title(arguments, f"Satellite {satellite}{designator}, {epoch} UTC")
     return lambda figure: uncertainty.covariance(record, title, figure)
 
 
@@ -123,8 +141,12 @@ def _show(draw: Callable[[Any], Any], arguments: argparse.Namespace) -> None:
         return
     from matplotlib import pyplot  # type: ignore[import]
 
-    figure = pyplot.figure()
-    if figure.canvas.required_interactive_framework is None:
+    try:
+        figure = pyplot.figure()
+        is_window = figure.canvas.required_interactive_framework is not None
+    except ImportError:  # of the backend that was asked for
+        is_window = False
+    if not is_window:
         raise _Failure(_FAILED, "no window can be opened here; -o PICTURE writes a file")
     draw(figure)
     pyplot.show()

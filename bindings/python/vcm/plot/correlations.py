@@ -7,11 +7,11 @@ from .elements import Numbers
 
 
 def correlations(covariance: npt.ArrayLike) -> Numbers:
-    """The correlation matrix; not-a-number in the row and column of a variance that is not positive."""
+    """The correlation matrix; not-a-number in rows and columns whose variance is not positive."""
     matrix = np.asarray(covariance, dtype=np.float64)
     variances = np.diag(matrix)
     sigmas = np.sqrt(np.where(variances > 0, variances, np.nan))
-    result = matrix / sigmas[:, None] / sigmas  # not by their product, which may be too small for a double
+    result = matrix / np.outer(sigmas, sigmas)
     np.fill_diagonal(result, np.where(np.isnan(sigmas), np.nan, 1.0))
     return np.asarray(result)
 

@@ -1,9 +1,9 @@
 """Shapes and tilts of orbits, from position and velocity.
 
-They are osculating two-body elements: those of the ellipse that a satellite would follow from its epoch on if
-the Earth were a point and nothing else pulled. The forces of a real orbit change them all the time, those of
-a low one by some ten kilometres in altitude within a revolution. The state is the ECI (true of date) one, so
-that the inclination is against the true equator of date.
+They are osculating two-body elements: those of the ellipse that a satellite would follow from its
+epoch on if the Earth were a point and nothing else pulled. The forces of a real orbit change them
+all the time: near the Earth the altitudes swing by some ten kilometres within a revolution. The
+state is the ECI (true of date) one, so that the inclination is against the true equator of date.
 """
 
 from dataclasses import dataclass
@@ -46,20 +46,25 @@ def elements(position: npt.ArrayLike, velocity: npt.ArrayLike) -> Elements:
         momentum = np.cross(r, v)
         h = _length(momentum)
         is_orbit = np.isfinite(h) & (h > 1e-9 * distance * speed)
-        # The vector form is exact for near-circular orbits, where the energy form loses half the digits.
+        # The energy form would lose half the digits on near-circular orbits.
         e = _length(np.cross(v, momentum) / EARTH_GM - r / distance[:, None])
         semi_latus_rectum = h * h / EARTH_GM
         closed = speed * speed * distance < 2.0 * EARTH_GM
         perigee = semi_latus_rectum / (1.0 + e) - EARTH_RADIUS
         apogee = np.where(closed, semi_latus_rectum / (1.0 - e) - EARTH_RADIUS, np.inf)
-        inclination = np.degrees(np.arctan2(np.hypot(momentum[:, 0], momentum[:, 1]), momentum[:, 2]))
-    return Elements(*(np.where(is_orbit, each, np.nan) for each in (inclination, e, perigee, apogee)))
+        inclination = np.degrees(
+            np.arctan2(np.hypot(momentum[:, 0], momentum[:, 1]), momentum[:, 2])
+        )
+    return Elements(
+        *(np.where(is_orbit, each, np.nan) for each in (inclination, e, perigee, apogee))
+    )
 
 
 def of_table(table: Any) -> Elements:
     """The elements of each row of `vcm.table()`, or of a frame made of it."""
     position, velocity = (
-        np.column_stack([np.asarray(table[name + axis]) for axis in "XYZ"]) for name in ("eciPos", "eciVel")
+        np.column_stack([np.asarray(table[name + axis]) for axis in "XYZ"])
+        for name in ("eciPos", "eciVel")
     )
     return elements(position, velocity)
 

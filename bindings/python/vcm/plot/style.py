@@ -49,13 +49,13 @@ def prepare(figure: Any, width: float, height: float) -> Any:
 def annotate(figure: Any, title: str, notes: list[str]) -> None:
     """Puts the title above, and below what a reader must know."""
     if title:
-        figure.suptitle(title, fontsize=12, fontweight="bold")
+        figure.suptitle(title, fontsize=12, fontweight="bold", parse_math=False)
     if notes:
         figure.supxlabel("; ".join(notes), fontsize=9, color=GREY)
 
 
 def save(figure: Any, path: str, dpi: int) -> None:
-    """Writes a picture of the kind that the file's ending (.png, .svg, .pdf) names. Raises OSError."""
+    """Writes a picture; the file's ending (.png, .svg, .pdf) names its kind. Raises OSError."""
     ending = Path(path).suffix.lower()
     picture = io.BytesIO()
     with matplotlib.rc_context({"svg.hashsalt": "vcm", "svg.fonttype": "path", "pdf.fonttype": 42}):

@@ -26,15 +26,11 @@ def covariance(record: Record, title: str, figure: Any) -> Any:
         figure = prepare(figure, 9, 5.2)
         grid = figure.add_gridspec(2, 2, width_ratios=(2.1, 1))
         _draw_map(figure, figure.add_subplot(grid[:, 0]), correlations(record.covariance))
-        sigmas = [
-            ("Position", record.posSigmas, ("U\nradial", "V\nin-track", "W\ncross-track"), "km", "m", BLUE),
-            ("Velocity", record.velSigmas, ("UD\nradial", "VD\nin-track", "WD\ncross-track"), "km/s", "m/s",
-             VERMILION),
-        ]  # fmt: skip
-        for row, (name, values, labels, large, small, color) in enumerate(sigmas):
-            axes = figure.add_subplot(grid[row, 1])
-            _draw_sigmas(axes, np.asarray(values), labels, large, small, color)
-            axes.set_title(f"{name} sigmas")
+        upper, lower = (figure.add_subplot(grid[row, 1]) for row in range(2))
+        _draw_sigmas(upper, record.posSigmas, "UVW", ("km", "m"), BLUE)
+        upper.set_title("Position sigmas")
+        _draw_sigmas(lower, record.velSigmas, ("UD", "VD", "WD"), ("km/s", "m/s"), VERMILION)
+        lower.set_title("Velocity sigmas")
         annotate(figure, title, notes(record))
     return figure
 
@@ -45,7 +41,8 @@ def _draw_map(figure: Any, axes: Any, matrix: Any) -> None:
     image = axes.imshow(matrix, cmap="RdBu_r", vmin=-1.0, vmax=1.0)
     for i, j in np.ndindex(n, n):
         value = matrix[i, j]
-        axes.text(j, i, _number(value), ha="center", va="center", fontsize=9, color="white" if abs(value) > 0.6 else "black")
+        color = "white" if abs(value) > 0.6 else "black"
+        axes.text(j, i, _number(value), ha="center", va="center", fontsize=9, color=color)
     axes.set_xticks(range(n), _SYMBOLS[:n])
     axes.set_yticks(range(n), _SYMBOLS[:n])
     axes.set_xticks(np.arange(1, n) - 0.5, minor=True)
@@ -62,18 +59,23 @@ def _draw_map(figure: Any, axes: Any, matrix: Any) -> None:
 def _number(correlation: float) -> str:
     if np.isnan(correlation):
         return "–"
-    beyond = abs(correlation) > 1.005
-    text = f"{'<' if correlation < 0 else '>'} {np.sign(correlation):.0f}" if beyond else f"{correlation:.2f}"
+    text = f"{correlation:.2f}"
+    if abs(correlation) > 1.005:
+        text = "> 1" if correlation > 0 else "< -1"
     return text.replace("-0.00", "0.00").replace("-", "\N{MINUS SIGN}")
 
 
-def _draw_sigmas(axes: Any, values: Any, labels: tuple[str, ...], large: str, small: str, color: str) -> None:
+def _draw_sigmas(axes: Any, values: Any, names: Any, units: tuple[str, str], color: str) -> None:
     """Bars with their values, in the smaller unit where all fall below one of the larger."""
+    values = np.asarray(values)
     is_small = not (np.abs(values) >= 1.0).any()
-    values, unit = (values * 1000.0, small) if is_small else (values, large)
+    if is_small:
+        values = values * 1000.0
+    directions = ("radial", "in-track", "cross-track")
+    labels = [f"{name}\n{direction}" for name, direction in zip(names, directions)]
     bars = axes.bar(labels, values, 0.6, color=color)
     axes.bar_label(bars, [f"{value:.3g}" for value in values], padding=2, fontsize=9)
-    axes.set_ylabel(unit)
+    axes.set_ylabel(units[is_small])
     axes.margins(y=0.15)
     axes.set_ylim(bottom=min(0.0, np.nanmin(values, initial=0.0)))
     axes.tick_params(axis="x", length=0)
