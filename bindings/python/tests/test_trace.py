@@ -83,7 +83,7 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
     key = vcm.add(message(1))
 
     def change(name: str) -> None:
-        for value in range(300):
+        for value in range(4000):
             vcm.set_field(key, name, value)
             assert vcm.get_field(key, name) == value, name
 
