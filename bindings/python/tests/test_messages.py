@@ -134,7 +134,13 @@ def test_what_is_not_there() -> None:
         for name, action in actions.items():
             with pytest.raises(KeyError):
                 print(name, unknown, action(unknown))
-    for satellite, epoch in [(5, "yesterday"), (5, math.nan), (-5, record.epoch), (5, 1e12)]:
+    for satellite, epoch in [
+        (5, "yesterday"),
+        (5, math.nan),
+        (-5, record.epoch),
+        (2**32, 1e4),
+        (5, 1e12),
+    ]:
         with pytest.raises(vcm.RefusedError):
             vcm.key(satellite, epoch)
     assert vcm.keys() == [key]

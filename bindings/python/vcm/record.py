@@ -106,8 +106,7 @@ class Record:
 
     @property
     def epoch(self) -> datetime:
-        """The epoch, in UTC, to the microsecond. Raises RefusedError outside the years 1 to
-        9999."""
+        """The epoch, UTC, to the microsecond; RefusedError outside the years 1 to 9999."""
         return to_datetime(self.epochDays)
 
     @property
@@ -121,8 +120,7 @@ class Record:
         return len(self.covariance)
 
     def replace(self, **changes: Any) -> "Record":
-        """The same record with some fields changed; `epoch` and `leapSecondTime` may be given as
-        dates."""
+        """The same record with some fields changed; `epoch` and `leapSecondTime` are dates."""
         for name in _layout.DATES & changes.keys():
             changes[_DAYS[name]] = to_days(changes.pop(name))
         return dataclasses.replace(self, **changes)
