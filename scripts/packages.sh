@@ -24,5 +24,6 @@ build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev nlohmann-json3-dev
 test_packages=(libgtest-dev binutils pkg-config make gfortran doxygen mandoc
   python3 python3-pytest mypy python3-numpy python3-pandas python3-matplotlib python3-distributed)
 benchmark_packages=(libbenchmark-dev gfortran python3)
+picture_packages=(python3-numpy python3-matplotlib)
 fuzz_packages=(clang libclang-rt-dev llvm)
 package_packages=(dpkg-dev file lintian)

@@ -1,5 +1,6 @@
 // vcm: VCM files on the command line.
 #include <fmt/format.h>
+#include <unistd.h>
 
 #include <CLI/CLI.hpp>
 #include <array>
@@ -9,6 +10,7 @@
 #include <string_view>
 
 #include "commands/Command.h"
+#include "terminal/Colors.h"
 #include "vcm/Vcm.h"
 
 namespace {
@@ -19,14 +21,15 @@ constexpr const char* kExamples = R"(Examples:
   vcm show catalogue.vcm 13                   the messages of satellite 13
   vcm get catalogue.vcm 13 epoch bTerm        some of its fields
   vcm set a.vcm 13 bTerm=0.0012 -o b.vcm      a file with one of them changed
+  vcm diff monday.vcm tuesday.vcm             what became of which message
   vcm convert today.one -o today.vcm          one-line messages to multi-line ones
   vcm convert a.vcm -o a.json --to json       everything, for other programs
   vcm expand today.one today.vcm              columns copied, nothing checked
   vcm list --help                             more about a command
 
 Files are read in every form but CSV; - is standard input.
-Exit codes: 0 fine, 1 something in the input was bad, 2 wrong usage or a file
-that cannot be read or written.)";
+Exit codes: 0 fine, 1 something in the input was bad or, for diff, different,
+2 wrong usage or a file that cannot be read or written.)";
 
 std::string versions() {
   std::array<char, VCM_INFO_LENGTH> info;
@@ -36,9 +39,18 @@ std::string versions() {
   return fmt::format("vcm {}\n{}", VCM_PROGRAM_VERSION, library);
 }
 
+void addColors(CLI::App& command) {
+  using namespace vcmtool;
+  command.add_option_function<std::string>("--color", chooseColors, "When to use colours")
+      ->check(CLI::IsMember({kColorsOnTerminals, kColorsAlways, kColorsNever}))
+      ->type_name("WHEN")
+      ->default_str(kColorsOnTerminals);
+}
+
 std::string usageError(const CLI::App* program, const CLI::Error& error) {
   const auto commands = program->get_subcommands();
-  return fmt::format("vcm: {}\nTry: vcm {}--help\n", error.what(),
+  return fmt::format("{} {}\nTry: vcm {}--help\n",
+                     vcmtool::styled(STDERR_FILENO, vcmtool::Style::error, "vcm:"), error.what(),
                      commands.empty() ? "" : commands.front()->get_name() + " ");
 }
 
@@ -59,9 +71,12 @@ int main(int argc, char** argv) {
   program.failure_message(usageError);
   for (const auto addCommand :
        {vcmtool::addListCommand, vcmtool::addCheckCommand, vcmtool::addShowCommand,
-        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addConvertCommand,
-        vcmtool::addExpandCommand}) {
+        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addDiffCommand,
+        vcmtool::addConvertCommand, vcmtool::addExpandCommand}) {
     addCommand(program, exitCode);
+  }
+  for (CLI::App* const command : program.get_subcommands({})) {
+    addColors(*command);
   }
 
   try {

@@ -1,0 +1,197 @@
+"""The catalogue as a whole: where its satellites fly, and of when its messages are."""
+
+from typing import Any, NamedTuple
+
+import numpy as np
+import numpy.typing as npt
+from matplotlib import ticker  # type: ignore[import]
+from matplotlib.dates import AutoDateLocator, ConciseDateFormatter  # type: ignore[import]
+from matplotlib.lines import Line2D  # type: ignore[import]
+
+from .elements import Elements, Numbers, of_table
+from .style import BLUE, GREEN, GREY, VERMILION, annotate, prepare, styled
+
+_MOST_MARKS = 500  # with more satellites, points are a cloud
+_MOST_BARS = 60
+_SPANS = {
+    "hour": "h",
+    "6 hours": "6h",
+    "day": "D",
+    "7 days": "7D",
+    "month": "M",
+    "year": "Y",
+    "decade": "10Y",
+}
+
+
+def catalogue(table: Any, title: str, figure: Any) -> Any:
+    """Inclination against altitude, and epochs over time beside it."""
+    with styled():
+        figure = prepare(figure, 9, 4.2)
+        left, right = figure.subplots(1, 2, gridspec_kw={"width_ratios": (1.25, 1)})
+        _draw_orbits(left, of_table(table))
+        _draw_epochs(right, table)
+        annotate(figure, title, notes(table, orbits=True))
+    return figure
+
+
+def epochs(table: Any, title: str, figure: Any) -> Any:
+    """Epochs over time alone."""
+    with styled():
+        figure = prepare(figure, 9, 3.6)
+        _draw_epochs(figure.subplots(), table)
+        annotate(figure, title, notes(table, orbits=False))
+    return figure
+
+
+def notes(table: Any, orbits: bool) -> list[str]:
+    """What has no place in the picture."""
+    counts = {}
+    if orbits:
+        found = of_table(table)
+        bound = ~(found.open | found.degenerate)
+        counts["open orbits"] = found.open.sum()
+        counts["degenerate states"] = found.degenerate.sum()
+        counts["perigees below the surface"] = (bound & (found.perigee <= 0)).sum()
+        counts["apogees below the surface"] = (bound & (found.apogee <= 0)).sum()
+    counts["epochs that are no date"] = (~_known(_dates(table))).sum()
+    told = [f"{what} {count:,}" for what, count in counts.items() if count]
+    return ["left out: " + ", ".join(told)] if told else []
+
+
+def _draw_orbits(axes: Any, found: Elements) -> None:
+    bound = ~(found.open | found.degenerate)
+    inclination, perigee, apogee = (
+        found.inclination[bound],
+        found.perigee[bound],
+        found.apogee[bound],
+    )
+    draw = _draw_marks if len(inclination) <= _MOST_MARKS else _draw_cloud
+    draw(axes, inclination, perigee, apogee)
+    handles = [
+        Line2D([], [], color=BLUE, marker="o", ls="", ms=3.5, label="perigee"),
+        Line2D(
+            [], [], color=VERMILION, marker="s", ls="", ms=5, mfc="none", mew=0.9, label="apogee"
+        ),
+    ]
+    if draw is _draw_cloud:
+        handles[1].set(marker="o", markersize=3.5, markerfacecolor=VERMILION)
+    axes.legend(
+        handles=handles,
+        loc="lower right",
+        bbox_to_anchor=(1.0, 1.0),
+        ncols=2,
+        borderaxespad=0.2,
+        handletextpad=0.1,
+        columnspacing=1.0,
+    )
+    altitudes = np.concatenate([perigee, apogee])
+    _scale_altitudes(axes, altitudes[altitudes > 0])
+    top = 30 * np.ceil(max(90.0, inclination.max(initial=0.0)) / 30)
+    axes.set(
+        xlabel="altitude (km)",
+        ylabel="inclination (°)",
+        title="Orbits",
+        ylim=(-0.02 * top, 1.02 * top),
+    )
+    axes.yaxis.set_major_locator(ticker.MultipleLocator(30))
+    axes.grid(True)
+
+
+def _draw_marks(axes: Any, inclination: Numbers, perigee: Numbers, apogee: Numbers) -> None:
+    """Each satellite by itself, its ends joined; both are seen where they fall together."""
+    whole = perigee > 0
+    axes.hlines(
+        inclination[whole], perigee[whole], apogee[whole], GREY, lw=0.5, alpha=0.5, zorder=0.8
+    )
+    for altitude, look in (
+        (
+            apogee,
+            {
+                "s": 26,
+                "marker": "s",
+                "edgecolors": VERMILION,
+                "facecolors": "none",
+                "linewidths": 0.9,
+            },
+        ),
+        (perigee, {"s": 8, "marker": "o", "color": BLUE}),
+    ):
+        axes.scatter(altitude[altitude > 0], inclination[altitude > 0], **look)
+
+
+def _draw_cloud(axes: Any, inclination: Numbers, perigee: Numbers, apogee: Numbers) -> None:
+    """All ends as small points: perigees and apogees mixed, so that neither hides the other."""
+    altitude = np.column_stack([perigee, apogee]).ravel()
+    inclination, colors = np.repeat(inclination, 2), np.tile([BLUE, VERMILION], len(perigee))
+    drawn = altitude > 0
+    thin = min(1.0, 5000 / len(perigee))
+    axes.scatter(
+        altitude[drawn],
+        inclination[drawn],
+        3 + 5 * thin,
+        colors[drawn],
+        alpha=max(0.06, 0.6 * thin),
+        linewidths=0,
+        rasterized=True,
+    )
+
+
+def _scale_altitudes(axes: Any, altitudes: Numbers) -> None:
+    """A log axis where low and high orbits are together; ticks as numbers people read."""
+    span = altitudes.max() / altitudes.min() if len(altitudes) else 1.0
+    if span > 8:
+        axes.set_xscale("log")
+        axes.xaxis.set_major_locator(
+            ticker.LogLocator(subs=(1.0, 2.0, 5.0) if span < 100 else (1.0, 3.0))
+        )
+        axes.xaxis.set_minor_locator(ticker.NullLocator())
+    axes.xaxis.set_major_formatter(ticker.FuncFormatter(lambda value, _: f"{value:,.0f}"))
+
+
+class _Bars(NamedTuple):
+    """A histogram over spans of the calendar."""
+
+    span: str
+    edges: Numbers  # in days, as matplotlib counts them
+    counts: npt.NDArray[np.int64]
+
+
+def _bars(dates: npt.NDArray[np.datetime64]) -> _Bars:
+    """The finest spans that leave few enough bars."""
+    for span, unit in _SPANS.items():
+        indexes = dates.astype(f"M8[{unit}]").astype(np.int64)
+        first, last = int(indexes.min()), int(indexes.max())
+        if last - first < _MOST_BARS:
+            break
+    edges = np.arange(first, last + 2).astype(f"M8[{unit}]").astype("M8[us]")
+    return _Bars(span, edges.astype(np.int64) / 86400e6, np.bincount(indexes - first))
+
+
+def _dates(table: Any) -> npt.NDArray[np.datetime64]:
+    return np.asarray(table["epoch"]).astype("M8[us]")
+
+
+def _known(dates: npt.NDArray[np.datetime64]) -> npt.NDArray[np.bool_]:
+    """Those that a calendar's axis can show."""
+    return (dates >= np.datetime64("0010-01-01")) & (dates < np.datetime64("9900-01-01"))
+
+
+def _draw_epochs(axes: Any, table: Any) -> None:
+    dates = _dates(table)
+    dates = dates[_known(dates)]
+    if len(dates):
+        span, edges, counts = _bars(dates)
+        axes.bar(
+            edges[:-1], counts, np.diff(edges), align="edge", color=GREEN, edgecolor="white", lw=0.5
+        )
+        margin = max(0.03 * (edges[-1] - edges[0]), edges[1] - edges[0])
+        axes.set_xlim(edges[0] - margin, edges[-1] + margin)
+        locator = AutoDateLocator(minticks=3, maxticks=6)
+        axes.xaxis_date()
+        axes.xaxis.set_major_locator(locator)
+        axes.xaxis.set_major_formatter(ConciseDateFormatter(locator))
+        axes.set_ylabel(f"messages per {span}")
+    axes.yaxis.get_major_locator().set_params(integer=True)
+    axes.set(xlabel="epoch (UTC)", title="Epochs")
+    axes.grid(True, axis="y")
