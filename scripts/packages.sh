@@ -17,6 +17,6 @@ need_packages() {
 }
 
 build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev nlohmann-json3-dev)
-test_packages=(libgtest-dev python3 binutils)
+test_packages=(libgtest-dev python3 binutils mandoc)
 benchmark_packages=(libbenchmark-dev gfortran python3)
 fuzz_packages=(clang libclang-rt-dev llvm)
