@@ -6,10 +6,13 @@
 #include <array>
 #include <csignal>
 #include <iostream>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "commands/Command.h"
+#include "commands/Completion.h"
 #include "terminal/Colors.h"
 #include "vcm/Vcm.h"
 
@@ -54,6 +57,14 @@ std::string usageError(const CLI::App* program, const CLI::Error& error) {
                      commands.empty() ? "" : commands.front()->get_name() + " ");
 }
 
+int complete(const CLI::App& program, std::span<const std::string> words) {
+  const auto found = vcmtool::completionsOf(program, words);
+  for (const std::string& word : found.value_or(std::vector<std::string>())) {
+    std::cout << word << '\n';
+  }
+  return found ? vcmtool::kFine : vcmtool::kBadInput;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -79,6 +90,11 @@ int main(int argc, char** argv) {
     addColors(*command);
   }
 
+  // Not in the help: how the shell's completion asks what may stand next.
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  if (words.size() > 1 && words.front() == "--complete") {
+    return complete(program, std::span(words).subspan(1));
+  }
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -1,8 +1,10 @@
 """Where the library is looked for."""
 
 import os
+import re
 import shutil
 import sysconfig
+import tomllib
 from pathlib import Path
 
 import pytest
@@ -26,3 +28,9 @@ def test_a_library_that_is_none(monkeypatch: pytest.MonkeyPatch, wrong: str) -> 
     monkeypatch.setenv("VCM_LIBRARY", wrong)
     with pytest.raises(vcm.LibraryNotFoundError, match=f"VCM_LIBRARY.*\n.*{wrong}"):
         vcm._library.load()
+
+
+def test_the_package_has_the_version_of_the_library() -> None:
+    project = re.search(r"project\(Vcm VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())
+    package = tomllib.loads((ROOT / "bindings" / "python" / "pyproject.toml").read_text())
+    assert project and package["project"]["version"] == project[1] in vcm.info()

@@ -63,7 +63,7 @@ def test_files_that_cannot_be_opened(tmp_path: Path) -> None:
     for path, code, text in [
         (tmp_path / "missing", errno.ENOENT, "No such file"),
         (tmp_path, errno.EISDIR, "directory"),
-        (tmp_path / ("x" * 600), errno.ENAMETOOLONG, "too long"),
+        (f"{tmp_path}{'/.' * 300}/directives", errno.ENAMETOOLONG, "too long"),
         (tmp_path / "blank ", errno.EINVAL, "blanks"),
         (tmp_path / "directives", errno.ENOENT, 'Unable to open file "no-such-file"'),
     ]:
@@ -92,8 +92,12 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     record = vcm.get(key)
     assert key == vcm.find(5) == vcm.key(5, record.epoch) == vcm.key(5, record.epochDays)
     assert key == vcm.key(5, record.epoch.astimezone(timezone(timedelta(hours=-7))))
+    assert key == vcm.key(5, record.epoch - timedelta(microseconds=400))
+    with pytest.raises(ValueError):
+        record.eciPos[0] = 1
     square = [[i + j for j in range(6)] for i in range(6)]
     changed = record.replace(bTerm=0.5, covariance=square, leapSecondTime=datetime(2017, 1, 1))
+    changed = changed.replace(geoName="WGS-84 and more")  # of which six characters are kept
     vcm.store[key] = changed.replace(satNum=6)  # which stays as it is
     assert vcm.get(key) == changed
     vcm.save(tmp_path / "saved")
@@ -101,13 +105,8 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     del vcm.store[key]
     assert vcm.keys() == [] and vcm.store.get(key) is None
     assert vcm.load(tmp_path / "saved").duplicate == 1 and list(vcm.store.values()) == [changed]
-    for refused in (
-        message(5, "2.903596202111", "9999.596202111"),
-        "",
-        "hello",
-        "€",
-        message(5)[:900],
-    ):
+    beyond = message(5, "2.903596202111", "9999.596202111")
+    for refused in (beyond, "", "hello", "€", message(5)[:900], message(5) + "\0"):
         with pytest.raises(vcm.RefusedError):
             vcm.add(refused)
     wrong: list[dict[str, Any]]
@@ -135,7 +134,13 @@ def test_what_is_not_there() -> None:
         for name, action in actions.items():
             with pytest.raises(KeyError):
                 print(name, unknown, action(unknown))
-    for satellite, epoch in [(5, "yesterday"), (5, math.nan), (-5, record.epoch), (5, 1e12)]:
+    for satellite, epoch in [
+        (5, "yesterday"),
+        (5, math.nan),
+        (-5, record.epoch),
+        (2**32, 1e4),
+        (5, 1e12),
+    ]:
         with pytest.raises(vcm.RefusedError):
             vcm.key(satellite, epoch)
     assert vcm.keys() == [key]

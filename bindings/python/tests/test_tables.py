@@ -41,6 +41,7 @@ def test_some_rows_and_columns() -> None:
     keys = vcm.keys()[7::-1]
     table = vcm.table(keys, columns=["epochDays", "satKey"])
     assert table.dtype.names == ("epochDays", "satKey") and table["satKey"].tolist() == keys
+    assert table["satKey"][0] in vcm.store and vcm.get(table["satKey"][0]) == vcm.get(keys[0])
     with pytest.raises(vcm.RefusedError, match="nothing"):
         vcm.table(columns=["nothing"])
     vcm.clear()

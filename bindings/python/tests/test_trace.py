@@ -6,6 +6,7 @@ import random
 import sys
 import threading
 from collections.abc import Callable
+from concurrent.futures import ThreadPoolExecutor
 from functools import partial
 from pathlib import Path
 
@@ -16,24 +17,13 @@ from conftest import CATALOGUE, SAMPLES, message, run_python
 
 def side_by_side(*actions: Callable[[], None]) -> None:
     """Runs them in threads that take turns far more often than usual; raises the first error."""
-    errors: list[BaseException] = []
-
-    def guarded(action: Callable[[], None]) -> None:
-        try:
-            action()
-        except BaseException as error:
-            errors.append(error)
-
     before = sys.getswitchinterval()
     sys.setswitchinterval(1e-6)
-    threads = [threading.Thread(target=guarded, args=[action]) for action in actions]
-    for thread in threads:
-        thread.start()
-    for thread in threads:
-        thread.join()
+    with ThreadPoolExecutor(len(actions)) as pool:
+        futures = [pool.submit(action) for action in actions]
     sys.setswitchinterval(before)
-    if errors:
-        raise errors[0]
+    for future in futures:
+        future.result()
 
 
 def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture) -> None:
@@ -83,7 +73,7 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
     key = vcm.add(message(1))
 
     def change(name: str) -> None:
-        for value in range(300):
+        for value in range(4000):
             vcm.set_field(key, name, value)
             assert vcm.get_field(key, name) == value, name
 

@@ -6,17 +6,13 @@ from array import array
 from collections.abc import Sequence
 from dataclasses import dataclass
 from datetime import datetime
-from typing import TYPE_CHECKING, Any, NamedTuple
+from typing import Any, NamedTuple
 
 from . import _layout
 from ._encoding import encode
-from ._optional import matrix, vector
+from ._optional import Array, matrix, vector
 from .dates import to_datetime, to_days
 from .errors import RefusedError
-
-if TYPE_CHECKING:
-    from ._optional import Array
-
 
 _ZERO: Any = (0.0, 0.0, 0.0)  # made an array when a record is made, as the next
 _NONE: Any = ()
@@ -49,12 +45,12 @@ class Record:
     intlDes: str = ""
     epochDays: float = 0.0
     epochRev: int = 0
-    j2kPos: "Array" = _ZERO
-    j2kVel: "Array" = _ZERO
-    eciPos: "Array" = _ZERO
-    eciVel: "Array" = _ZERO
-    efgPos: "Array" = _ZERO
-    efgVel: "Array" = _ZERO
+    j2kPos: Array = _ZERO
+    j2kVel: Array = _ZERO
+    eciPos: Array = _ZERO
+    eciVel: Array = _ZERO
+    efgPos: Array = _ZERO
+    efgVel: Array = _ZERO
     geoName: str = ""
     geoZonals: int = 0
     geoTesserals: int = 0
@@ -87,10 +83,10 @@ class Record:
     stepSelection: str = ""
     initStepSize: float = 0.0
     errorControl: float = 0.0
-    posSigmas: "Array" = _ZERO
-    velSigmas: "Array" = _ZERO
+    posSigmas: Array = _ZERO
+    velSigmas: Array = _ZERO
     wtdRms: float = 0.0
-    covariance: "Array" = _NONE
+    covariance: Array = _NONE
 
     def __post_init__(self) -> None:
         for name in _layout.COMPONENTS:
@@ -106,8 +102,7 @@ class Record:
 
     @property
     def epoch(self) -> datetime:
-        """The epoch, in UTC, to the microsecond. Raises RefusedError outside the years 1 to
-        9999."""
+        """The epoch, UTC, to the microsecond; RefusedError outside the years 1 to 9999."""
         return to_datetime(self.epochDays)
 
     @property
@@ -121,8 +116,7 @@ class Record:
         return len(self.covariance)
 
     def replace(self, **changes: Any) -> "Record":
-        """The same record with some fields changed; `epoch` and `leapSecondTime` may be given as
-        dates."""
+        """The same record with some fields changed; `epoch` and `leapSecondTime` are dates."""
         for name in _layout.DATES & changes.keys():
             changes[_DAYS[name]] = to_days(changes.pop(name))
         return dataclasses.replace(self, **changes)
