@@ -48,7 +48,16 @@ def blocks(text):
     return found
 
 
-def links(text):
-    """The files of the tree that the page points to, as it names them."""
-    prose = re.sub(r"(?ms)^```.*?^```$", "", text)
-    return [target for target in re.findall(r"\]\(([^)#\s]+)", prose) if "://" not in target]
+def broken_links(page):
+    """Files of the tree, and headings in them, that the page points to and that are not there."""
+    prose = re.sub(r"(?ms)^```.*?^```$", "", page.read_text())
+    for target in re.findall(r"\]\(([^)\s]+)", prose):
+        name, _, anchor = target.partition("#")
+        path = page.parent / name if name else page
+        if "://" not in target and not (path.exists() and (not anchor or anchor in anchors(path))):
+            yield target
+
+
+def anchors(page):
+    headings = re.findall(r"(?m)^#+ (.*)", page.read_text())
+    return {re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-") for heading in headings}

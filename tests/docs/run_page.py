@@ -12,7 +12,7 @@ import subprocess
 import sys
 import tempfile
 
-from page import blocks, links
+from page import blocks, broken_links
 
 TIME_LIMIT = 300
 COMPILE = ("cc -std=c99 -pedantic -Wall -Wextra -Wno-unused -Werror blocks-of-page.c -o blocks-of-page"
@@ -134,8 +134,8 @@ def shows(expected, output):
 
 def run(source, build, page):
     text = (source / page).read_text()
-    problems = [f"{page}: links to {target}, which is not there" for target in links(text)
-                if not ((source / page).parent / target).exists()]
+    problems = [f"{page}: links to {target}, which is not there"
+                for target in broken_links(source / page)]
     if page in ("docs/README.md", "examples/README.md"):  # lists what is beside it
         problems += [f"{page}: {path.name} is not listed" for path in (source / page).parent.iterdir()
                      if path.suffix in (".md", ".c", ".cpp", ".f90", ".py") and path.name not in text
