@@ -78,9 +78,11 @@ void printMultiLine(const VcmRecord& record, const char* header) {
   std::array<char, VCM_TEXT_LENGTH> area;
   std::int32_t lines = 0;
   Vcm2VcmLines(record, area, &lines);
+  const std::string_view text(area.data(), area.size());
   std::cout << "```text\n";
   for (std::int32_t i = 0; i < lines; ++i) {
-    const std::string_view line(area.data() + i * kMessageLineWidth, kMessageLineWidth);
+    const std::string_view line =
+        text.substr(static_cast<std::size_t>(i) * kMessageLineWidth, kMessageLineWidth);
     std::cout << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
   }
   std::cout << "```\n";

@@ -21,7 +21,9 @@ def main():
     new = SECTION.sub(lambda match: printed.get(match[1], ""), old)
     wrong = [f"{page}: no section {name}" for name in sorted(printed.keys() ^ shown)]
     if check:
-        wrong += difflib.unified_diff(old.splitlines(), new.splitlines(), "page", "printed", lineterm="")
+        wrong += difflib.unified_diff(
+            old.splitlines(), new.splitlines(), "page", "printed", lineterm=""
+        )
     else:
         pathlib.Path(page).write_text(new)
     print(*wrong, sep="\n", end="\n" if wrong else "")

@@ -32,7 +32,7 @@ def main():
     wanted, shown = declared(header.read_text()), in_synopsis(interface)
     problems += [f"vcm.3 lacks: {missing}" for missing in sorted(wanted - shown)]
     problems += [f"vcm.3 declares what the header does not: {wrong}" for wrong in sorted(shown - wanted)]
-    print(*problems, sep="\n")
+    print(*problems, sep="\n", end="\n" if problems else "")
     return 1 if problems or not wanted else 0
 
 

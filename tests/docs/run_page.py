@@ -28,7 +28,7 @@ VcmInit();
 {}return 0;
 }}
 """
-LAST_BLOCK = "---- the last block ----\n"
+LAST_BLOCK = "---- the last block ----"
 
 
 def environment(prefix):
@@ -67,7 +67,7 @@ class Session:
             os.dup2(output.fileno(), 1)
             try:
                 exec(compile(code, "block", "exec"), self.names)
-            except Exception as problem:  # a page's mistake, whatever it is
+            except BaseException as problem:  # an exit, too, would end the test with success
                 error = repr(problem)
             finally:
                 sys.stdout.flush()
@@ -78,15 +78,15 @@ class Session:
 
     def c(self, code):
         """C blocks without a file make up one program: it is run anew with each that is added."""
-        program = FRAME.format(self.c_blocks + f"fputs({escaped(LAST_BLOCK)}, stdout);\n" + code)
+        program = FRAME.format(self.c_blocks + f'puts("{LAST_BLOCK}");\n' + code)
         pathlib.Path("blocks-of-page.c").write_text(program)
         self.c_blocks += code
         output, error = self.sh(COMPILE)
-        return output.partition(LAST_BLOCK)[2] if not error else output, error
+        return output.partition(LAST_BLOCK + "\n")[2] if not error else output, error
 
     def run(self, block):
         """Its output, and what is wrong."""
-        if block.file and block.language not in ("sh", "bash"):
+        if block.file:
             path = pathlib.Path(block.file)
             if path.exists():
                 return "", f"{path} is a file of the tree: name the block's own"
@@ -98,10 +98,6 @@ class Session:
         if block.language not in ways:
             return "", f'a block of language "{block.language}" is neither run nor a named file'
         return ways[block.language](block.code)
-
-
-def escaped(text):
-    return '"' + text.replace("\n", "\\n") + '"'
 
 
 def wrong_with_mark(source, kind, value, code):
@@ -140,6 +136,10 @@ def run(source, build, page):
     text = (source / page).read_text()
     problems = [f"{page}: links to {target}, which is not there" for target in links(text)
                 if not ((source / page).parent / target).exists()]
+    if page in ("docs/README.md", "examples/README.md"):  # lists what is beside it
+        problems += [f"{page}: {path.name} is not listed" for path in (source / page).parent.iterdir()
+                     if path.suffix in (".md", ".c", ".cpp", ".f90", ".py") and path.name not in text
+                     and path.name != "README.md"]
     with tempfile.TemporaryDirectory() as directory:
         checkout = pathlib.Path(directory, "libvcm")
         shutil.copytree(source, checkout, ignore=shutil.ignore_patterns("build", ".git", "__pycache__"))
@@ -167,7 +167,7 @@ def main():
     if os.environ.get("VCM_PAGE_PREFIX") != str(prefix):  # the loader reads its variables at the start
         os.execve(sys.executable, [sys.executable, *sys.argv], environment(prefix))
     problems = run(source, build, sys.argv[4])
-    print(*problems, sep="\n")
+    print(*problems, sep="\n", end="\n" if problems else "")
     return 1 if problems else 0
 
 
