@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <string_view>
 #include <utility>
 #include <variant>
@@ -48,8 +49,8 @@ void sortBy(std::vector<std::int64_t>& keys, const vcm::SingleField& field, bool
 std::string wrongFieldOrder(const std::string& given) { return unknownField(nameOf(given)); }
 
 void sortByFields(std::vector<std::int64_t>& keys, const std::vector<std::string>& fields) {
-  for (auto field = fields.rbegin(); field != fields.rend(); ++field) {
-    sortBy(keys, *fieldNamed(nameOf(*field)), field->starts_with('-'));
+  for (const std::string& field : std::views::reverse(fields)) {
+    sortBy(keys, *fieldNamed(nameOf(field)), field.starts_with('-'));
   }
 }
 
