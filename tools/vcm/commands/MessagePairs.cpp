@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <span>
 #include <utility>
 #include <vector>
@@ -15,11 +14,8 @@ namespace vcmtool {
 
 namespace {
 
-struct Place {
-  std::int32_t satNum;
-  std::int64_t milliseconds;  // since 1950: no key tells more
-  auto operator<=>(const Place&) const = default;
-};
+// Satellite number, and milliseconds since 1950: no key tells more.
+using Place = std::pair<std::int32_t, std::int64_t>;
 
 struct Message {
   Place place;
