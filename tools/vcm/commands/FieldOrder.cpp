@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <string_view>
 #include <utility>
 #include <variant>
@@ -49,9 +48,9 @@ void sortBy(std::vector<std::int64_t>& keys, const vcm::SingleField& field, bool
 std::string wrongFieldOrder(const std::string& given) { return unknownField(nameOf(given)); }
 
 void sortByFields(std::vector<std::int64_t>& keys, const std::vector<std::string>& fields) {
-  for (const std::string& field : std::views::reverse(fields)) {
+  std::for_each(fields.rbegin(), fields.rend(), [&keys](const std::string& field) {
     sortBy(keys, *fieldNamed(nameOf(field)), field.starts_with('-'));
-  }
+  });
 }
 
 }  // namespace vcmtool
