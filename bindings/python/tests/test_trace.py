@@ -13,6 +13,7 @@ from pathlib import Path
 import pytest
 import vcm
 from conftest import CATALOGUE, SAMPLES, message, run_python
+from vcm import _locks
 
 
 def side_by_side(*actions: Callable[[], None]) -> None:
@@ -78,6 +79,15 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
             assert vcm.get_field(key, name) == value, name
 
     side_by_side(*(partial(change, name) for name in ("bTerm", "agom", "cmOffset", "avgAp")))
+
+
+def test_a_handler_that_interrupts_a_listing_is_refused() -> None:
+    """By then the array of the keys has its length."""
+    with _locks.growing:
+        for action in (vcm.keys, partial(vcm.add, message(1)), partial(vcm.load, CATALOGUE)):
+            with pytest.raises(vcm.VcmError, match="interrupts"):
+                action()
+    assert vcm.add(message(1)) in vcm.keys()
 
 
 def test_a_load_leaves_the_interpreter_to_others(tmp_path: Path) -> None:

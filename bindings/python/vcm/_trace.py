@@ -84,7 +84,7 @@ def _make_sink() -> Any:
 
 
 _NO_LOCK: AbstractContextManager[None] = nullcontext()
-_loading = threading.Lock()
+_loading = threading.RLock()
 _loaded: ctypes.CDLL | None = None
 _sink: Any = None  # kept alive for as long as the host may call it
 

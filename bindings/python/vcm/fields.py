@@ -8,10 +8,11 @@ from typing import Any
 
 from . import _layout
 from ._encoding import checked, encode
+from ._locks import changing
 from ._trace import call, call_holding, errors, library
 from .dates import Moment, epoch_text, to_datetime
 from .errors import NotFoundError, RefusedError
-from .messages import changing, contains, get_arrays, require_found
+from .messages import contains, get_arrays, require_found
 
 FIELD_NAMES: tuple[str, ...] = tuple(_layout.FIELDS)
 """The names of the single fields."""

@@ -6,9 +6,9 @@ import re
 from dataclasses import dataclass
 
 from . import _layout
+from ._locks import growing
 from ._trace import Line, call, call_holding, errors, library
 from .errors import FileError
-from .messages import growing
 
 _TOTALS = re.compile(r"Total VCMs = *\d+, Loaded = *(\d+), Dup = *(\d+), Bad = *(\d+)")
 
@@ -54,7 +54,8 @@ def _load(name: bytes) -> tuple[int, int]:
 def save(path: str | os.PathLike[str], append: bool = False) -> None:
     """Saves every stored message as a multi-line message, ascending by key.
 
-    `append` keeps what the file holds. Raises FileError when the file cannot be opened. What a full disk does not take is not reported.
+    `append` keeps what the file holds. Raises FileError when the file cannot be opened. What a full
+    disk does not take is not reported.
     """
     code, lines = call(library().VcmSaveFile, _file_name(path), int(append))
     _require_opened(path, code, lines)

@@ -6,22 +6,16 @@ one another: the library asks that nothing be added while keys are listed.
 
 import ctypes
 import re
-import threading
 from array import array
 from enum import IntEnum
 
 from . import _layout, _trace
 from ._encoding import checked, encode
+from ._locks import changing, growing
 from ._trace import Line, call, call_holding, errors, library
 from .dates import Moment, epoch_text
 from .errors import DuplicateError, NotFoundError, RefusedError
 from .record import Arrays, Buffers, Record
-
-# Held while messages are added, and while keys are listed.
-growing = threading.RLock()
-# Held while messages are changed: the library reads a message, changes a field and writes all of it
-# back, and one thread's change could undo another's.
-changing = threading.RLock()
 
 _NO_KEY = -1
 _DUPLICATE = 0

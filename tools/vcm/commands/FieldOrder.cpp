@@ -48,9 +48,9 @@ void sortBy(std::vector<std::int64_t>& keys, const vcm::SingleField& field, bool
 std::string wrongFieldOrder(const std::string& given) { return unknownField(nameOf(given)); }
 
 void sortByFields(std::vector<std::int64_t>& keys, const std::vector<std::string>& fields) {
-  for (auto field = fields.rbegin(); field != fields.rend(); ++field) {
-    sortBy(keys, *fieldNamed(nameOf(*field)), field->starts_with('-'));
-  }
+  std::for_each(fields.rbegin(), fields.rend(), [&keys](const std::string& field) {
+    sortBy(keys, *fieldNamed(nameOf(field)), field.starts_with('-'));
+  });
 }
 
 }  // namespace vcmtool

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <span>
 #include <utility>
 #include <vector>
@@ -15,11 +14,8 @@ namespace vcmtool {
 
 namespace {
 
-struct Place {
-  std::int32_t satNum;
-  std::int64_t milliseconds;  // since 1950: no key tells more
-  auto operator<=>(const Place&) const = default;
-};
+// Satellite number, and milliseconds since 1950: no key tells more.
+using Place = std::pair<std::int32_t, std::int64_t>;
 
 struct Message {
   Place place;
@@ -56,9 +52,12 @@ std::span<Message> takeGroup(std::span<Message>& messages) {
 // Hands on the pairs that are the same and leaves null records behind.
 void takeSame(std::span<Message> a, std::span<Message> b, const AreSame& areSame,
               const TakePair& take) {
+  // No more have ordinary keys of one satellite and epoch. Where keys are addresses, there may be any
+  // number, and looking through all for each would take forever.
+  constexpr std::size_t kMostTried = 100;
   std::size_t next = 0;  // files that are alike have their messages in the same order
   for (Message& message : a) {
-    for (std::size_t tried = 0; tried < b.size(); ++tried) {
+    for (std::size_t tried = 0; tried < std::min(b.size(), kMostTried); ++tried) {
       Message& other = b[(next + tried) % b.size()];
       if (other.record != nullptr && areSame(*message.record, *other.record)) {
         take(std::exchange(message.record, nullptr), std::exchange(other.record, nullptr));
