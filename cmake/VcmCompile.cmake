@@ -2,6 +2,11 @@
 
 set(VCM_SANITIZE "" CACHE STRING "Sanitizers to build with, for instance address,undefined")
 option(VCM_COVERAGE "Instrument for coverage" OFF)
+# Such a build is not for programs from elsewhere, interpreters among them: nobody installs it.
+set(VCM_INSTRUMENTED FALSE)
+if(VCM_SANITIZE OR VCM_COVERAGE)
+  set(VCM_INSTRUMENTED TRUE)
+endif()
 
 find_package(Threads REQUIRED)
 

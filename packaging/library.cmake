@@ -15,3 +15,5 @@ file(RELATIVE_PATH VCM_PREFIX_FROM_PKGCONFIG "/${VCM_PKGCONFIG_DIR}" "/")
 string(REGEX REPLACE "/$" "" VCM_PREFIX_FROM_PKGCONFIG "${VCM_PREFIX_FROM_PKGCONFIG}")
 configure_file(vcm.pc.in vcm.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/vcm.pc" DESTINATION "${VCM_PKGCONFIG_DIR}" COMPONENT development)
+
+install_page(vcm.3 development)

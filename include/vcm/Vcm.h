@@ -86,11 +86,11 @@ extern "C" {
 #define VCM_FIELD_EPOCH 3           /**< date: epoch; may not be set */
 #define VCM_FIELD_EPOCHREV 4        /**< i5: revolution number at epoch */
 #define VCM_FIELD_ECIPOSX 5         /**< f35.15: ECI (true of date) position, km */
-#define VCM_FIELD_ECIPOSY 6         /**< f35.15 */
-#define VCM_FIELD_ECIPOSZ 7         /**< f35.15 */
+#define VCM_FIELD_ECIPOSY 6         /**< f35.15: the same */
+#define VCM_FIELD_ECIPOSZ 7         /**< f35.15: the same */
 #define VCM_FIELD_ECIVELX 8         /**< f35.15: ECI velocity, km/s */
-#define VCM_FIELD_ECIVELY 9         /**< f35.15 */
-#define VCM_FIELD_ECIVELZ 10        /**< f35.15 */
+#define VCM_FIELD_ECIVELY 9         /**< f35.15: the same */
+#define VCM_FIELD_ECIVELZ 10        /**< f35.15: the same */
 #define VCM_FIELD_GEONAME 11        /**< text 6: geopotential model */
 #define VCM_FIELD_GEOZONALS 12      /**< i2: zonal terms */
 #define VCM_FIELD_GEOTESSERALS 13   /**< i2: tesseral terms */
@@ -106,17 +106,17 @@ extern "C" {
 #define VCM_FIELD_F10 23            /**< i3: solar flux F10 */
 #define VCM_FIELD_AVGF10 24         /**< i3: average F10 */
 #define VCM_FIELD_AVGAP 25          /**< f35.15: average Ap */
-#define VCM_FIELD_TAIMINUSUTC 26    /**< f35.15: s */
-#define VCM_FIELD_UT1MINUSUTC 27    /**< f35.15: s */
-#define VCM_FIELD_UT1RATE 28        /**< f35.15: ms/day */
-#define VCM_FIELD_POLARMOTIONX 29   /**< f35.15: arcsec */
-#define VCM_FIELD_POLARMOTIONY 30   /**< f35.15: arcsec */
+#define VCM_FIELD_TAIMINUSUTC 26    /**< f35.15: TAI-UTC, s */
+#define VCM_FIELD_UT1MINUSUTC 27    /**< f35.15: UT1-UTC, s */
+#define VCM_FIELD_UT1RATE 28        /**< f35.15: UT1 rate, ms/day */
+#define VCM_FIELD_POLARMOTIONX 29   /**< f35.15: polar motion, arcsec */
+#define VCM_FIELD_POLARMOTIONY 30   /**< f35.15: polar motion, arcsec */
 #define VCM_FIELD_NUTATIONTERMS 31  /**< i3: IAU 1980 nutation terms */
 #define VCM_FIELD_LEAPSECONDTIME 32 /**< date: time-constant leap second time */
 #define VCM_FIELD_INTEGMODE 33      /**< text 6: integrator mode */
-#define VCM_FIELD_PARTIALS 34       /**< text 8 */
-#define VCM_FIELD_STEPMODE 35       /**< text 4 */
-#define VCM_FIELD_FIXEDSTEP 36      /**< text 3: ON or OFF */
+#define VCM_FIELD_PARTIALS 34       /**< text 8: partials */
+#define VCM_FIELD_STEPMODE 35       /**< text 4: step mode */
+#define VCM_FIELD_FIXEDSTEP 36      /**< text 3: fixed step, ON or OFF */
 #define VCM_FIELD_STEPSELECTION 37  /**< text 6: step size selection */
 #define VCM_FIELD_INITSTEPSIZE 38   /**< f35.15: initial step size, s */
 #define VCM_FIELD_ERRORCONTROL 39   /**< e10.3: integrator error control */
@@ -147,7 +147,7 @@ extern "C" {
 #define VCM_NUM_GEOZONALS 21      /**< zonal terms */
 #define VCM_NUM_GEOTESSERALS 22   /**< tesseral terms */
 #define VCM_NUM_BTERM 23          /**< ballistic coefficient, m2/kg */
-#define VCM_NUM_BDOT 24           /**< its rate, m2/kg-s */
+#define VCM_NUM_BDOT 24           /**< rate of the ballistic coefficient, m2/kg-s */
 #define VCM_NUM_AGOM 25           /**< solar radiation pressure coefficient, m2/kg */
 #define VCM_NUM_EDR 26            /**< energy dissipation rate, W/kg */
 #define VCM_NUM_THRUSTACCEL 27    /**< thrust acceleration, m/s2 */
@@ -155,17 +155,17 @@ extern "C" {
 #define VCM_NUM_F10 29            /**< solar flux F10 */
 #define VCM_NUM_AVGF10 30         /**< average F10 */
 #define VCM_NUM_AVGAP 31          /**< average Ap */
-#define VCM_NUM_TAIMINUSUTC 32    /**< s */
-#define VCM_NUM_UT1MINUSUTC 33    /**< s */
-#define VCM_NUM_UT1RATE 34        /**< ms/day */
-#define VCM_NUM_POLARMOTIONX 35   /**< arcsec */
-#define VCM_NUM_POLARMOTIONY 36   /**< arcsec */
-#define VCM_NUM_NUTATIONTERMS 37  /**< IAU 1980 terms */
+#define VCM_NUM_TAIMINUSUTC 32    /**< TAI-UTC, s */
+#define VCM_NUM_UT1MINUSUTC 33    /**< UT1-UTC, s */
+#define VCM_NUM_UT1RATE 34        /**< UT1 rate, ms/day */
+#define VCM_NUM_POLARMOTIONX 35   /**< polar motion, arcsec */
+#define VCM_NUM_POLARMOTIONY 36   /**< polar motion, arcsec */
+#define VCM_NUM_NUTATIONTERMS 37  /**< IAU 1980 nutation terms */
 #define VCM_NUM_LEAPSECONDTIME 38 /**< days since 1950 UTC */
-#define VCM_NUM_INITSTEPSIZE 39   /**< s */
+#define VCM_NUM_INITSTEPSIZE 39   /**< initial step size, s */
 #define VCM_NUM_ERRORCONTROL 40   /**< integrator error control */
-#define VCM_NUM_POSSIGMAS 41      /**< to 43: U, V, W, km */
-#define VCM_NUM_VELSIGMAS 44      /**< to 46: UD, VD, WD, km/s */
+#define VCM_NUM_POSSIGMAS 41      /**< to 43: position sigmas U, V, W, km */
+#define VCM_NUM_VELSIGMAS 44      /**< to 46: velocity sigmas UD, VD, WD, km/s */
 #define VCM_NUM_COVMTXSIZE 47     /**< covariance dimension n; below 1 there is none */
 #define VCM_NUM_WTDRMS 48         /**< weighted RMS of the fit */
 #define VCM_NUM_COVARIANCE 100    /**< to 144: lower triangle of 9 x 9, row by row */
@@ -173,19 +173,19 @@ extern "C" {
 
 /* ---- positions in the character array, counted from 0 ----------------------------------- */
 
-#define VCM_CHAR_INTLDES 0        /**< 8: launch year (2), piece (6) */
+#define VCM_CHAR_INTLDES 0        /**< 8: international designator: launch year (2), piece (6) */
 #define VCM_CHAR_GEONAME 33       /**< 6: geopotential model */
-#define VCM_CHAR_DRAGMODEL 39     /**< 12 */
-#define VCM_CHAR_LUNARSOLAR 51    /**< 3: ON or OFF, as the three below */
-#define VCM_CHAR_RADPRESS 54      /**< 3 */
-#define VCM_CHAR_EARTHTIDES 57    /**< 3 */
-#define VCM_CHAR_INTRACKTHRUST 60 /**< 3 */
+#define VCM_CHAR_DRAGMODEL 39     /**< 12: drag model */
+#define VCM_CHAR_LUNARSOLAR 51    /**< 3: lunar and solar perturbations, ON or OFF */
+#define VCM_CHAR_RADPRESS 54      /**< 3: solar radiation pressure, ON or OFF */
+#define VCM_CHAR_EARTHTIDES 57    /**< 3: solid earth tides, ON or OFF */
+#define VCM_CHAR_INTRACKTHRUST 60 /**< 3: in-track thrust, ON or OFF */
 #define VCM_CHAR_INTEGMODE 63     /**< 6: integrator mode */
 #define VCM_CHAR_COORDSYS 69      /**< 5: integrator coordinate system */
-#define VCM_CHAR_PARTIALS 74      /**< 8 */
-#define VCM_CHAR_STEPMODE 82      /**< 4 */
-#define VCM_CHAR_FIXEDSTEP 86     /**< 3: ON or OFF */
-#define VCM_CHAR_STEPSELECTION 89 /**< 6 */
+#define VCM_CHAR_PARTIALS 74      /**< 8: partials */
+#define VCM_CHAR_STEPMODE 82      /**< 4: step mode */
+#define VCM_CHAR_FIXEDSTEP 86     /**< 3: fixed step, ON or OFF */
+#define VCM_CHAR_STEPSELECTION 89 /**< 6: step size selection */
 
 /* ---- lifecycle -------------------------------------------------------------------------- */
 

@@ -7,7 +7,8 @@ commands and what they show. Commands run one by one in bash, in a directory tha
 
   $ COMMAND       not on a terminal
   80$ COMMAND     with standard input, output and error on a terminal of 80 columns. Once progress
-                  has been shown twice, enter is pressed. A return without a new line is shown as \\r.
+                  is at a stop, enter is pressed. A return without a new line is shown as \\r, an
+                  escape as \\e.
 
 A command shows its standard output, then its standard error with "! " before each line, then its exit
 code in brackets unless it is 0. "..." stands for any text. Commands may use
@@ -51,8 +52,9 @@ def on_terminal(columns, start):
             shown += os.read(master, 65536)
         except OSError:  # how a terminal ends
             os.close(master)
-            return shown.replace(b"\r\n", b"\n").replace(b"\r", rb"\r"), process.wait()
-        if not entered and shown.count(b" messages, ") > 1:
+            return shown.replace(b"\r\n", b"\n").replace(b"\r", rb"\r")\
+                .replace(b"\x1b", rb"\e"), process.wait()
+        if not entered and re.search(rb"(\r[^\r]* messages, )[^\r]*\1", shown):
             entered = bool(os.write(master, b"\n"))
 
 

@@ -1,14 +1,19 @@
 // vcm: VCM files on the command line.
 #include <fmt/format.h>
+#include <unistd.h>
 
 #include <CLI/CLI.hpp>
 #include <array>
 #include <csignal>
 #include <iostream>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "commands/Command.h"
+#include "commands/Completion.h"
+#include "terminal/Colors.h"
 #include "vcm/Vcm.h"
 
 namespace {
@@ -19,14 +24,15 @@ constexpr const char* kExamples = R"(Examples:
   vcm show catalogue.vcm 13                   the messages of satellite 13
   vcm get catalogue.vcm 13 epoch bTerm        some of its fields
   vcm set a.vcm 13 bTerm=0.0012 -o b.vcm      a file with one of them changed
+  vcm diff monday.vcm tuesday.vcm             what became of which message
   vcm convert today.one -o today.vcm          one-line messages to multi-line ones
   vcm convert a.vcm -o a.json --to json       everything, for other programs
   vcm expand today.one today.vcm              columns copied, nothing checked
   vcm list --help                             more about a command
 
 Files are read in every form but CSV; - is standard input.
-Exit codes: 0 fine, 1 something in the input was bad, 2 wrong usage or a file
-that cannot be read or written.)";
+Exit codes: 0 fine, 1 something in the input was bad or, for diff, different,
+2 wrong usage or a file that cannot be read or written.)";
 
 std::string versions() {
   std::array<char, VCM_INFO_LENGTH> info;
@@ -36,10 +42,27 @@ std::string versions() {
   return fmt::format("vcm {}\n{}", VCM_PROGRAM_VERSION, library);
 }
 
+void addColors(CLI::App& command) {
+  using namespace vcmtool;
+  command.add_option_function<std::string>("--color", chooseColors, "When to use colours")
+      ->check(CLI::IsMember({kColorsOnTerminals, kColorsAlways, kColorsNever}))
+      ->type_name("WHEN")
+      ->default_str(kColorsOnTerminals);
+}
+
 std::string usageError(const CLI::App* program, const CLI::Error& error) {
   const auto commands = program->get_subcommands();
-  return fmt::format("vcm: {}\nTry: vcm {}--help\n", error.what(),
+  return fmt::format("{} {}\nTry: vcm {}--help\n",
+                     vcmtool::styled(STDERR_FILENO, vcmtool::Style::error, "vcm:"), error.what(),
                      commands.empty() ? "" : commands.front()->get_name() + " ");
+}
+
+int complete(const CLI::App& program, std::span<const std::string> words) {
+  const auto found = vcmtool::completionsOf(program, words);
+  for (const std::string& word : found.value_or(std::vector<std::string>())) {
+    std::cout << word << '\n';
+  }
+  return found ? vcmtool::kFine : vcmtool::kBadInput;
 }
 
 }  // namespace
@@ -59,11 +82,19 @@ int main(int argc, char** argv) {
   program.failure_message(usageError);
   for (const auto addCommand :
        {vcmtool::addListCommand, vcmtool::addCheckCommand, vcmtool::addShowCommand,
-        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addConvertCommand,
-        vcmtool::addExpandCommand}) {
+        vcmtool::addGetCommand, vcmtool::addSetCommand, vcmtool::addDiffCommand,
+        vcmtool::addConvertCommand, vcmtool::addExpandCommand}) {
     addCommand(program, exitCode);
   }
+  for (CLI::App* const command : program.get_subcommands({})) {
+    addColors(*command);
+  }
 
+  // Not in the help: how the shell's completion asks what may stand next.
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  if (words.size() > 1 && words.front() == "--complete") {
+    return complete(program, std::span(words).subspan(1));
+  }
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

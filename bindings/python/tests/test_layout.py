@@ -7,50 +7,41 @@ from conftest import ROOT
 from vcm import FIELD_NAMES, Order, _layout, _library
 
 HEADER = (ROOT / "include" / "vcm" / "Vcm.h").read_text()
-CONSTANTS = {
-    name: (int(value), comment)
-    for name, value, comment in re.findall(
-        r"#define VCM_(\w+) +(\d+)(?: +/\*[*<]* *(.*?) *\*/)?$", HEADER, re.MULTILINE
-    )
-}
+DEFINES = re.findall(r"#define VCM_(\w+) +(\d+)(?: +/\*[*<]* *(.*?) *\*/)?$", HEADER, re.M)
 
 
 def constants(prefix: str) -> dict[str, tuple[int, str]]:
+    """Value and comment of the constants that begin so, lengths left out."""
     return {
-        name.removeprefix(prefix): value
-        for name, value in CONSTANTS.items()
+        name.removeprefix(prefix): (int(value), comment)
+        for name, value, comment in DEFINES
         if name.startswith(prefix) and not name.endswith("_LENGTH")
     }
 
 
-def capitals(table: dict[str, tuple[int, int]]) -> dict[str, tuple[int, int]]:
-    return {name.upper(): value for name, value in table.items()}
-
-
 def test_positions_and_lengths() -> None:
-    def length(position: int, comment: str) -> int:
-        last = re.match(r"to (\d+)", comment)
-        return int(last[1]) - position + 1 if last else 1
-
-    numbers = {name: (at, length(at, text)) for name, (at, text) in constants("NUM_").items()}
-    assert capitals(_layout.NUMBERS) == numbers
-    texts = {name: (at, int(text.split(":")[0])) for name, (at, text) in constants("CHAR_").items()}
-    assert capitals(_layout.TEXTS) == texts
-    for name in (name for name in vars(_layout) if name.endswith("_LENGTH")):
-        assert getattr(_layout, name) == CONSTANTS[name][0], name
+    places = {
+        name: (at, int(text.split(":")[0])) for name, (at, text) in constants("CHAR_").items()
+    }
+    for name, (at, text) in constants("NUM_").items():
+        last = re.match(r"to (\d+)", text)
+        places[name] = (at, int(last[1]) - at + 1 if last else 1)
+    known = _layout.NUMBERS | _layout.TEXTS
+    assert {name.upper(): place for name, place in known.items()} == places
+    for name, value, _ in DEFINES:
+        assert getattr(_layout, name, int(value)) == int(value), name
     assert ", ".join(_layout.ELEMENTS) in re.sub(r"[\s*]+", " ", HEADER)
-    assert {order.name: int(order) for order in Order} == {
+    assert {name: Order[name] for name in Order.__members__} == {
         name: value for name, (value, _) in constants("ORDER_").items()
     }
 
 
 def test_fields_and_their_kinds() -> None:
     header = constants("FIELD_")
-    assert {name.upper(): i for name, i in _layout.FIELDS.items()} == {
-        name: index for name, (index, _) in header.items()
-    }
-    for name in FIELD_NAMES:
-        kind = header[name.upper()][1]
+    assert [name.upper() for name in FIELD_NAMES] == list(header)
+    for name, index in _layout.FIELDS.items():
+        value, kind = header[name.upper()]
+        assert index == value, name
         assert (name in _layout.INTEGERS) == bool(re.match(r"i\d", kind)), name
         assert (name in _layout.TEXTS) == kind.startswith("text"), name
         assert (name in _layout.DATES) == kind.startswith("date"), name

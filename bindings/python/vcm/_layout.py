@@ -1,7 +1,8 @@
 """Where things stand in the C interface: the constants of Vcm.h that the package needs.
 
 Names are those of the C interface, written as its functions' parameters are: the constant of a name
-is the name in capitals. A test holds this module against the header. """
+is the name in capitals. A test holds this module against the header.
+"""
 
 from typing import Final
 

@@ -1,7 +1,7 @@
 """numpy, where it is installed: vectors and matrices are its arrays then, and tuples otherwise."""
 
 from collections.abc import Sequence
-from typing import TYPE_CHECKING, Any
+from typing import TYPE_CHECKING, Any, TypeAlias
 
 try:
     import numpy as np
@@ -13,22 +13,24 @@ else:
 if TYPE_CHECKING:
     import numpy.typing as npt
 
-    Array = npt.NDArray[np.float64]
+    Array: TypeAlias = npt.NDArray[np.float64]
+else:
+    Array = Any
 
 
-def vector(values: "Sequence[float] | Array") -> Any:
+def vector(values: Sequence[float] | Array) -> Any:
     """Numbers as an array that may not be changed."""
     return _read_only(values) if HAS_NUMPY else tuple(map(float, values))
 
 
-def matrix(rows: "Sequence[Sequence[float]] | Array") -> Any:
+def matrix(rows: Sequence[Sequence[float]] | Array) -> Any:
     """Rows of numbers as a matrix that may not be changed."""
     if HAS_NUMPY:
         return _read_only(rows)
     return tuple(tuple(map(float, row)) for row in rows)
 
 
-def _read_only(values: Any) -> "Array":
+def _read_only(values: Any) -> Array:
     result = np.array(values, dtype=np.float64)
     result.setflags(write=False)
     return result

@@ -87,7 +87,6 @@ _NO_LOCK: AbstractContextManager[None] = nullcontext()
 _loading = threading.Lock()
 _loaded: ctypes.CDLL | None = None
 _sink: Any = None  # kept alive for as long as the host may call it
-has_trace = False  # whether the host's trace can be listened to
 
 
 def library() -> ctypes.CDLL:
@@ -95,7 +94,7 @@ def library() -> ctypes.CDLL:
 
     Raises LibraryNotFoundError. The functions are called through `call`.
     """
-    global _loaded, _sink, has_trace
+    global _loaded, _sink
     if _loaded is not None:
         return _loaded
     with _loading:
@@ -109,7 +108,6 @@ def library() -> ctypes.CDLL:
                 set_sink(_sink, None)
                 # Threads may still be in the library when there is no interpreter left.
                 atexit.register(set_sink, _Sink(0), None)
-                has_trace = True
             loaded.VcmInit()
             _loaded = loaded
         return _loaded
@@ -127,7 +125,7 @@ def call_holding(
     lock: AbstractContextManager[object],
     function: Callable[P, T],
     *args: P.args,
-    **kwargs: P.kwargs
+    **kwargs: P.kwargs,
 ) -> tuple[T, list[Line]]:
     """As `call`, with a lock held; it is given back before the logging.
 

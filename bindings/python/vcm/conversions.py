@@ -1,7 +1,8 @@
 """Messages from one form into another. The store is not touched; any thread may call any of these.
 
 Texts have latin-1 characters alone. Lines come with a newline at the end of each and without the
-blanks before it. """
+blanks before it.
+"""
 
 import ctypes
 from typing import TypeAlias

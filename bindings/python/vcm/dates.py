@@ -26,8 +26,7 @@ def to_datetime(days: float) -> datetime:
 
 
 def to_days(date: datetime) -> float:
-    """The days since 1950 UTC of a date, rounded to the nearest double; one without a zone is
-    UTC."""
+    """The days since 1950 UTC of a date, to the nearest double; one without a zone is UTC."""
     return (_utc(date) - _BASE) / _DAY
 
 

@@ -20,7 +20,8 @@ class LoadResult:
     `messages` are the library's lines about those that are duplicates, cannot be read or break a
     limit. As in the library's own totals, a multi-line message that breaks a limit is counted
     nowhere. Where the host keeps its trace to itself, `messages` is empty and `duplicate` and `bad`
-    are -1."""
+    are -1.
+    """
 
     loaded: int
     duplicate: int
@@ -51,10 +52,9 @@ def _load(name: bytes) -> tuple[int, int]:
 
 
 def save(path: str | os.PathLike[str], append: bool = False) -> None:
-    """Saves every stored message as a multi-line message, ascending by key; `append` keeps what is
-    there.
+    """Saves every stored message as a multi-line message, ascending by key.
 
-    Raises FileError when the file cannot be opened. What a full disk does not take is not reported.
+    `append` keeps what the file holds. Raises FileError when the file cannot be opened. What a full disk does not take is not reported.
     """
     code, lines = call(library().VcmSaveFile, _file_name(path), int(append))
     _require_opened(path, code, lines)

@@ -1,6 +1,7 @@
 """The store as a mapping, for those who would rather write `vcm.store[key]`."""
 
 from collections.abc import Iterator, Mapping
+from typing import SupportsIndex
 
 from . import messages
 from .record import Record
@@ -21,7 +22,7 @@ class Store(Mapping[int, Record]):
         return iter(messages.keys())
 
     def __contains__(self, satKey: object) -> bool:
-        return isinstance(satKey, int) and messages.contains(satKey)
+        return isinstance(satKey, SupportsIndex) and messages.contains(satKey.__index__())
 
     def __getitem__(self, satKey: int) -> Record:
         return messages.get(satKey)

@@ -1,19 +1,20 @@
 """The messages of the store: there is one store in a process, and these functions work on it.
 
 Any thread may call any of them. Listing waits for `load` and `add` of other threads, and they for
-one another: the library asks that nothing be added while keys are listed. """
+one another: the library asks that nothing be added while keys are listed.
+"""
 
 import ctypes
 import re
 import threading
+from array import array
 from enum import IntEnum
-from typing import TypeVar
 
 from . import _layout, _trace
 from ._encoding import checked, encode
 from ._trace import Line, call, call_holding, errors, library
 from .dates import Moment, epoch_text
-from .errors import DuplicateError, NotFoundError, RefusedError, VcmError
+from .errors import DuplicateError, NotFoundError, RefusedError
 from .record import Arrays, Buffers, Record
 
 # Held while messages are added, and while keys are listed.
@@ -24,8 +25,6 @@ changing = threading.RLock()
 
 _NO_KEY = -1
 _DUPLICATE = 0
-
-E = TypeVar("E", bound=VcmError)
 
 
 class Order(IntEnum):
@@ -57,15 +56,15 @@ def keys(order: Order = Order.SATELLITE) -> list[int]:
     """The keys of all stored messages."""
     found, _ = call_holding(growing, _keys, int(order))
     # What another thread removes meanwhile leaves its place as it is.
-    return [key for key in found if key != _NO_KEY]
+    return [key for key in found.tolist() if key != _NO_KEY]
 
 
-def _keys(order: int) -> "ctypes.Array[ctypes.c_int64]":
-    room = library().VcmGetCount()
-    found = (ctypes.c_int64 * room)(*[_NO_KEY] * room)
+def _keys(order: int) -> "array[int]":
+    room: int = library().VcmGetCount()
+    found = array("q", [_NO_KEY]) * room
     if room > 0:
-        library().VcmGetLoaded(order, found)
-    return found  # type: ignore[no-any-return]
+        library().VcmGetLoaded(order, found.buffer_info()[0])
+    return found
 
 
 def find(satNum: int) -> int:
@@ -87,7 +86,7 @@ def key(satNum: int, epoch: Moment) -> int:
     none.
     """
     text = epoch_text(epoch)
-    made, _ = call(library().VcmFieldsToSatKey, checked(satNum, 32), encode(text))
+    made, _ = call(library().VcmFieldsToSatKey, checked(satNum, 32, RefusedError), encode(text))
     if made == _NO_KEY:
         raise RefusedError(f"satellite {satNum} at {text} makes no key")
     return made  # type: ignore[no-any-return]
@@ -111,8 +110,11 @@ def get_arrays(satKey: int) -> Arrays:
 def contains(satKey: int) -> bool:
     """Whether a message of this key is stored. Nothing is logged."""
     buffer = ctypes.create_string_buffer(_layout.FIELD_VALUE_LENGTH)
-    in_range = -(2**63) <= satKey < 2**63
-    return in_range and _trace.quietly(library().VcmGetField, satKey, 0, buffer) == 0
+    try:
+        key = checked(satKey, 64)
+    except NotFoundError:
+        return False
+    return bool(_trace.quietly(library().VcmGetField, key, 0, buffer) == 0)
 
 
 def add(message: str | Record | Arrays) -> int:

@@ -6,17 +6,13 @@ from array import array
 from collections.abc import Sequence
 from dataclasses import dataclass
 from datetime import datetime
-from typing import TYPE_CHECKING, Any, NamedTuple
+from typing import Any, NamedTuple
 
 from . import _layout
 from ._encoding import encode
-from ._optional import matrix, vector
+from ._optional import Array, matrix, vector
 from .dates import to_datetime, to_days
 from .errors import RefusedError
-
-if TYPE_CHECKING:
-    from ._optional import Array
-
 
 _ZERO: Any = (0.0, 0.0, 0.0)  # made an array when a record is made, as the next
 _NONE: Any = ()
@@ -36,57 +32,61 @@ class Record:
     Fields are named as in the C interface. Vectors and the covariance are numpy arrays that may not
     be written, or tuples where numpy is not installed; any sequence may be given for them. The
     covariance is the symmetric n x n matrix of the equinoctial elements af, ag, L, n, chi, psi, B,
-    Bdot, AGOM. `epochDays` and `leapSecondDays` are the library's own days since 1950 UTC; `epoch`
-    and `leapSecondTime` the same as dates. What the form leaves out are a common name and maneuver
-    cards.
+    Bdot, AGOM; of one that is given, the lower triangle counts. `epochDays` and `leapSecondDays`
+    are the library's own days since 1950 UTC; `epoch` and `leapSecondTime` the same as dates. A
+    common name and maneuver cards are left out.
+
+    Units: positions km, velocities km/s, and so their sigmas (U, V, W); bTerm and agom m2/kg, bDot
+    m2/kg-s, edr W/kg, thrustAccel m/s2, cmOffset m; taiMinusUtc, ut1MinusUtc and initStepSize s,
+    ut1Rate ms/day, polarMotionX and polarMotionY arcsec.
     """
 
     satNum: int = 0
     intlDes: str = ""
     epochDays: float = 0.0
     epochRev: int = 0
-    j2kPos: "Array" = _ZERO  # km
-    j2kVel: "Array" = _ZERO  # km/s
-    eciPos: "Array" = _ZERO  # true of date, km
-    eciVel: "Array" = _ZERO  # km/s
-    efgPos: "Array" = _ZERO  # Earth-fixed, km
-    efgVel: "Array" = _ZERO  # km/s
+    j2kPos: Array = _ZERO
+    j2kVel: Array = _ZERO
+    eciPos: Array = _ZERO
+    eciVel: Array = _ZERO
+    efgPos: Array = _ZERO
+    efgVel: Array = _ZERO
     geoName: str = ""
     geoZonals: int = 0
     geoTesserals: int = 0
     dragModel: str = ""
-    lunarSolar: str = ""  # ON or OFF, as the three below
+    lunarSolar: str = ""
     radPress: str = ""
     earthTides: str = ""
     intrackThrust: str = ""
-    bTerm: float = 0.0  # m2/kg
-    bDot: float = 0.0  # m2/kg-s
-    agom: float = 0.0  # m2/kg
-    edr: float = 0.0  # W/kg
-    thrustAccel: float = 0.0  # m/s2
-    cmOffset: float = 0.0  # m
+    bTerm: float = 0.0
+    bDot: float = 0.0
+    agom: float = 0.0
+    edr: float = 0.0
+    thrustAccel: float = 0.0
+    cmOffset: float = 0.0
     f10: int = 0
     avgF10: int = 0
     avgAp: float = 0.0
-    taiMinusUtc: float = 0.0  # s
-    ut1MinusUtc: float = 0.0  # s
-    ut1Rate: float = 0.0  # ms/day
-    polarMotionX: float = 0.0  # arcsec
-    polarMotionY: float = 0.0  # arcsec
+    taiMinusUtc: float = 0.0
+    ut1MinusUtc: float = 0.0
+    ut1Rate: float = 0.0
+    polarMotionX: float = 0.0
+    polarMotionY: float = 0.0
     nutationTerms: int = 0
     leapSecondDays: float = 0.0
     integMode: str = ""
     coordSys: str = ""
     partials: str = ""
     stepMode: str = ""
-    fixedStep: str = ""  # ON or OFF
+    fixedStep: str = ""
     stepSelection: str = ""
-    initStepSize: float = 0.0  # s
+    initStepSize: float = 0.0
     errorControl: float = 0.0
-    posSigmas: "Array" = _ZERO  # U, V, W, km
-    velSigmas: "Array" = _ZERO  # km/s
+    posSigmas: Array = _ZERO
+    velSigmas: Array = _ZERO
     wtdRms: float = 0.0
-    covariance: "Array" = _NONE
+    covariance: Array = _NONE
 
     def __post_init__(self) -> None:
         for name in _layout.COMPONENTS:
@@ -102,8 +102,7 @@ class Record:
 
     @property
     def epoch(self) -> datetime:
-        """The epoch, in UTC, to the microsecond. Raises RefusedError outside the years 1 to
-        9999."""
+        """The epoch, UTC, to the microsecond; RefusedError outside the years 1 to 9999."""
         return to_datetime(self.epochDays)
 
     @property
@@ -117,8 +116,7 @@ class Record:
         return len(self.covariance)
 
     def replace(self, **changes: Any) -> "Record":
-        """The same record with some fields changed; `epoch` and `leapSecondTime` may be given as
-        dates."""
+        """The same record with some fields changed; `epoch` and `leapSecondTime` are dates."""
         for name in _layout.DATES & changes.keys():
             changes[_DAYS[name]] = to_days(changes.pop(name))
         return dataclasses.replace(self, **changes)

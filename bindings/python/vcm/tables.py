@@ -2,9 +2,10 @@
 
 import itertools
 from collections.abc import Iterable, Iterator
-from typing import TYPE_CHECKING, Any
+from typing import TYPE_CHECKING, Any, NamedTuple
 
 from . import _layout, messages
+from ._encoding import checked
 from ._trace import call, errors, library
 from .errors import NotFoundError, RefusedError
 from .messages import Order
@@ -14,19 +15,21 @@ if TYPE_CHECKING:
     import numpy.typing as npt
 
 _CHUNK = 256  # messages whose arrays fit the cache
+_DATE = "M8[us]"
 
 
-class _Column:
-    """One column: its type, and where it stands in the array form."""
+class _Column(NamedTuple):
+    """A column: its type, and where it stands in the array form."""
 
-    def __init__(self, dtype: str, position: int, length: int = 1, is_date: bool = False) -> None:
-        self.dtype, self.position, self.length, self.is_date = (dtype, position, length, is_date)
+    dtype: str
+    position: int
+    length: int = 1  # of a text
 
 
 def _layout_columns() -> Iterator[tuple[str, _Column]]:
     for name, (first, length) in _layout.NUMBERS.items():
         if name in _layout.DATES:
-            yield name, _Column("M8[us]", first, is_date=True)
+            yield name, _Column(_DATE, first)
             yield name.removesuffix("Time") + "Days", _Column("f8", first)
         elif name in _layout.COMPONENTS:
             for i, component in enumerate(_layout.COMPONENTS[name]):
@@ -66,26 +69,24 @@ def table(
     if unknown := [name for name in chosen if name != "satKey" and name not in _COLUMNS]:
         raise RefusedError(f"no column is named {', '.join(unknown)}")
     dtypes = [(name, "i8" if name == "satKey" else _COLUMNS[name].dtype) for name in chosen]
-    every = np.array(messages.keys(order) if keys is None else list(keys), dtype=np.int64)
+    every = messages.keys(order) if keys is None else [checked(key, 64) for key in keys]
     result = np.zeros(len(every), dtype=dtypes)
     numbers = np.empty((_CHUNK, _layout.NUM_ARRAY_LENGTH))
     texts = np.empty((_CHUNK, _layout.CHAR_ARRAY_LENGTH), dtype=np.uint8)
     filled = 0
     for begin in range(0, len(every), _CHUNK):
         wanted = every[begin : begin + _CHUNK]
-        codes, lines = call(_retrieve, wanted.tolist(), texts, numbers)
-        found = np.array(codes) == 0
-        if keys is not None and not found.all():
-            missing = int(wanted[~found][0])
-            raise NotFoundError(f"no message of key {missing} is stored", errors(lines)[:1])
-        rows = result[filled : filled + int(found.sum())]
-        got_numbers, got_texts = (numbers[: len(wanted)][found], texts[: len(wanted)][found])
+        codes, lines = call(_retrieve, wanted, texts, numbers)
+        found = np.flatnonzero(np.array(codes) == 0)
+        if keys is not None and len(found) < len(wanted):
+            raise NotFoundError("a message is not stored", errors(lines)[:1])
+        rows = result[filled : filled + len(found)]
         for name in chosen:
             if name == "satKey":
-                rows[name] = wanted[found]
+                rows[name] = np.array(wanted)[found]
             else:
-                rows[name] = _values(_COLUMNS[name], got_numbers, got_texts)
-        filled += len(rows)
+                rows[name] = _values(_COLUMNS[name], numbers, texts)[found]
+        filled += len(found)
     return result[:filled]
 
 
@@ -98,10 +99,11 @@ def _retrieve(keys: list[int], texts: Any, numbers: Any) -> list[int]:
 
 
 def _values(column: _Column, numbers: Any, texts: Any) -> Any:
+    """A column of the chunks."""
     if column.length > 1:
         return _strings(texts[:, column.position : column.position + column.length])
     values = numbers[:, column.position]
-    return _dates(values) if column.is_date else values
+    return _dates(values) if column.dtype == _DATE else values
 
 
 def _dates(days: Any) -> Any:

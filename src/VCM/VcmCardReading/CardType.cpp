@@ -8,16 +8,6 @@
 
 namespace vcm {
 
-namespace {
-
-constexpr std::string_view kHeader = "<> SP VEC";
-constexpr std::string_view kBareFirstLine = "SATELLITE NUMBER:";
-constexpr std::string_view kKeyMode = "QZ_DMA_ON";
-constexpr std::array<std::string_view, 7> kDirectives = {
-    "VECFIL", "VECTORFILE", "ELTFIL", "ELSETFILE", "SPVMSG", "VCMFIL", "SATFIL"};
-
-}  // namespace
-
 CardType VcmCardType(std::string_view card) {
   if (card.starts_with(kHeader)) {
     return CardType::multiLineHeader;

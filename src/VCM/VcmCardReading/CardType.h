@@ -2,6 +2,7 @@
 #ifndef VCM_VCMCARDREADING_CARDTYPE_H
 #define VCM_VCMCARDREADING_CARDTYPE_H
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -17,6 +18,13 @@ enum class CardType : std::int32_t {
   keyMode = 5,        // switches satellite keys to direct addresses
   other = 100
 };
+
+// What cards begin with.
+inline constexpr std::string_view kHeader = "<> SP VEC";
+inline constexpr std::string_view kBareFirstLine = "SATELLITE NUMBER:";
+inline constexpr std::string_view kKeyMode = "QZ_DMA_ON";
+inline constexpr std::array<std::string_view, 7> kDirectives = {
+    "VECFIL", "VECTORFILE", "ELTFIL", "ELSETFILE", "SPVMSG", "VCMFIL", "SATFIL"};
 
 // Classifies a card in capitals: the first rule that matches, in the order of the codes.
 CardType VcmCardType(std::string_view card);

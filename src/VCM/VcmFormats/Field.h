@@ -20,6 +20,7 @@
 
 #include "VCM/VcmFormats/ColumnReading.h"
 #include "VCM/VcmFormats/ColumnWriting.h"
+#include "VCM/VcmFormats/Look.h"
 #include "VCM/VcmTypes/VcmRecord.h"
 
 namespace vcm {
@@ -46,6 +47,7 @@ struct Field {
   // it cannot be read: then the member keeps its value.
   bool (*read)(std::string_view text, VcmRecord& record);
   bool canGrow;  // may come out longer than `width`
+  Look look;
 };
 
 // ---- formats: how one value stands in `width` characters ----------------------------------------
@@ -53,6 +55,7 @@ struct Field {
 template <int Width>
 struct Integer {
   static constexpr int width = Width;
+  static constexpr Look look{"i"};
   static void write(std::int32_t value, char* out) { writeInteger<Width>(out, value); }
   static bool read(std::string_view text, std::int32_t& value) {
     return readInteger<Width>(text, value);
@@ -62,6 +65,7 @@ struct Integer {
 template <int Width>
 struct ZeroFilled {
   static constexpr int width = Width;
+  static constexpr Look look{"i", 0, 0, "zeros in front"};
   static void write(std::int32_t value, char* out) { writeZeroFilled<Width>(out, value); }
   static bool read(std::string_view text, std::int32_t& value) {
     return readInteger<Width>(text, value);
@@ -71,6 +75,7 @@ struct ZeroFilled {
 template <int Width, int Decimals, int ImpliedDecimals>
 struct Fixed {
   static constexpr int width = Width;
+  static constexpr Look look{"f", Decimals, ImpliedDecimals};
   static void write(double value, char* out) { writeFixed<Width, Decimals>(out, value); }
   static bool read(std::string_view text, double& value) {
     return readFixed<Width, Decimals>(text, ImpliedDecimals, value);
@@ -81,6 +86,7 @@ template <int Width, int Digits, int ImpliedDecimals>
 struct Scientific {
   static constexpr int width = Width;
   static constexpr int digits = Digits;
+  static constexpr Look look{"e", Digits, ImpliedDecimals};
   static void write(double value, char* out) { writeScientific<Width, Digits>(out, value); }
   static bool read(std::string_view text, double& value) {
     return readScientific<Width, Digits>(text, ImpliedDecimals, value);
@@ -90,6 +96,7 @@ struct Scientific {
 // A number that stands twice: this second place is not read.
 template <int Width>
 struct WrittenOnly : Integer<Width> {
+  static constexpr Look look{"i", 0, 0, "written only: not read"};
   static bool read(std::string_view /*text*/, std::int32_t& /*value*/) { return true; }
 };
 
@@ -97,6 +104,7 @@ struct WrittenOnly : Integer<Width> {
 template <int Width>
 struct WholeReal {
   static constexpr int width = Width;
+  static constexpr Look look{"i", 0, 0, "a fraction is dropped by the writer, not by the reader"};
   static void write(double value, char* out) { writeInteger<Width>(out, truncated(value)); }
   static bool read(std::string_view text, double& value) {
     std::int32_t whole = 0;
@@ -114,6 +122,7 @@ inline constexpr double kSecondsPerMillisecond = 0.001;
 template <int Width, int Decimals>
 struct MillisecondRate {
   static constexpr int width = Width;
+  static constexpr Look look{"f", Decimals};
   static void write(double value, char* out) {
     writeFixed<Width, Decimals>(out, value / kSecondsPerMillisecond);
   }
@@ -127,6 +136,7 @@ struct MillisecondRate {
 };
 
 struct Characters {
+  static constexpr Look look{"text"};
   template <std::size_t N>
   static void write(const FixedText<N>& value, char* out) {
     std::copy_n(value.view().data(), N, out);  // has no blanks but real ones
@@ -143,6 +153,7 @@ struct Characters {
 inline constexpr std::string_view kTwoBody = "2-BODY";
 
 struct ShiftedCharacters : Characters {
+  static constexpr Look look{"text", 0, 0, "read without the blanks in front"};
   template <std::size_t N>
   static bool read(std::string_view text, FixedText<N>& value) {
     value.assign(text);
@@ -152,6 +163,7 @@ struct ShiftedCharacters : Characters {
 };
 
 struct GeopotentialName : ShiftedCharacters {
+  static constexpr Look look{"text", 0, 0, "blank and NONE read as 2-BODY"};
   static bool read(std::string_view text, FixedText<6>& value) {
     const FixedText<6> name(text);
     if (name.isBlank() || name.view() == "NONE  ") {
@@ -174,6 +186,11 @@ constexpr auto& memberOf(auto& record) {
   }
 }
 
+template <class Format>
+inline constexpr bool kGrows = requires {
+  Format::growing;
+};
+
 template <auto Member, class Format, std::size_t... Component>
 constexpr Field field(std::string_view name, Column first) {
   constexpr int width = [] {
@@ -184,9 +201,11 @@ constexpr Field field(std::string_view name, Column first) {
           std::remove_cvref_t<decltype(memberOf<Member>(std::declval<VcmRecord&>()))>::width);
     }
   }();
-  return {name, first, width,
+  return {name,
+          first,
+          width,
           [](const VcmRecord& record, char* out) {
-            if constexpr (requires { Format::growing; }) {
+            if constexpr (kGrows<Format>) {
               return Format::write(memberOf<Member, Component...>(record), out);
             } else {
               Format::write(memberOf<Member, Component...>(record), out);
@@ -196,9 +215,8 @@ constexpr Field field(std::string_view name, Column first) {
           [](std::string_view text, VcmRecord& record) {
             return Format::read(text, memberOf<Member, Component...>(record));
           },
-          requires {Format::growing;
-}
-};  // namespace vcm
+          kGrows<Format>,
+          Format::look};
 }
 
 // The three rows of a vector whose components stand `step` columns apart.

@@ -39,6 +39,7 @@ using ErrorControlValue = Real<Scientific<10, 3, 0>>;
 
 struct GeneralNotation {
   static constexpr int width = kGeneralWidth;
+  static constexpr Look look{"g17"};
   static void write(double value, char* out) { writeGeneral(out, value); }
 };
 using FreeFormValue = Real<GeneralNotation>;
@@ -56,6 +57,7 @@ struct MillisecondRateValue : RealValue {
 
 struct FieldDate {
   static constexpr int width = kFieldDateWidth;
+  static constexpr Look look{"date"};
   static void write(const InputDate& date, char* out) { writeFieldDate(date, out); }
   static bool read(std::string_view value, InputDate& date) { return readFieldDate(value, date); }
 };
@@ -70,6 +72,13 @@ constexpr FieldKind kindOf(const FixedText<N>&) {
   return FieldKind::text;
 }
 
+FieldValue valueOf(double member) { return member; }
+FieldValue valueOf(const InputDate& member) { return inputDateToDs50(member); }
+template <std::size_t N>
+FieldValue valueOf(const FixedText<N>& member) {
+  return withoutLeadingBlanks(withoutTrailingBlanks(member.view()));
+}
+
 template <auto Member, class Format, std::size_t... Component>
 constexpr SingleField row(std::int32_t index, std::string_view name) {
   constexpr Field kField = field<Member, Format, Component...>({}, Column{1});
@@ -82,8 +91,10 @@ constexpr SingleField row(std::int32_t index, std::string_view name) {
           [](const VcmRecord& record, char* out) {
             Format::write(memberOf<Member, Component...>(record), out);
           },
+          [](const VcmRecord& record) { return valueOf(memberOf<Member, Component...>(record)); },
           kField.read,
-          {}};
+          {},
+          kField.look};
 }
 
 template <auto Member, class Format>

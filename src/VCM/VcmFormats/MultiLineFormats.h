@@ -15,6 +15,7 @@ namespace vcm {
 // Right-aligned in five columns up to 99999, else from the first column on.
 struct SatelliteNumber {
   static constexpr int width = 9;
+  static constexpr Look look{"i", 0, 0, "right-aligned in five columns where it fits them"};
   static void write(std::int32_t value, char* out) {
     constexpr int kShortWidth = 5;
     constexpr std::int32_t kShortLimit = 100'000;
@@ -33,6 +34,7 @@ struct SatelliteNumber {
 // "1989-021F" for 89021F: the launch year with four digits. A blank launch year leaves all blank.
 struct Designator {
   static constexpr int width = 11;
+  static constexpr Look look{"yyyy-piece", 0, 0, "only the last two digits of the year are read"};
   static constexpr Column kYear{3};  // the year's last two digits
   static constexpr Column kPiece{6};
 
@@ -62,6 +64,9 @@ struct Designator {
 struct CalendarDate {
   static constexpr int width = kCalendarDateWidth;
   static constexpr bool growing = true;
+  static constexpr Look look{
+      "yyyy ddd (dd mmm) hh:mm:ss.sss", 0, 0,
+      "what is in parentheses is not read; seconds that round up are a character longer"};
   static int write(const InputDate& value, char* out) { return writeCalendarDate(value, out); }
   static bool read(std::string_view text, InputDate& value) {
     return readCalendarDate(text, value);
@@ -70,6 +75,8 @@ struct CalendarDate {
 
 // A two-body model is written as a blank name.
 struct BlankableGeopotentialName : GeopotentialName {
+  static constexpr Look look{"text", 0, 0,
+                             "blank and NONE read as 2-BODY, which is written as blanks"};
   static void write(const FixedText<6>& value, char* out) {
     GeopotentialName::write(value.view() == kTwoBody ? FixedText<6>() : value, out);
   }

@@ -14,6 +14,7 @@ namespace vcm {
 template <int Width, int Digits>
 struct FreeForm {
   static constexpr int width = Width;
+  static constexpr Look look{"e", Digits, 0, "read wherever it stands in its columns"};
   static void write(double value, char* out) { writeScientific<Width, Digits>(out, value); }
   static bool read(std::string_view text, double& value) {
     return takeScientific<Width, Digits>(text, value) || isAllBlank(text) ||
@@ -24,6 +25,7 @@ struct FreeForm {
 // "89-021F" for 89021F.
 struct HyphenatedDesignator {
   static constexpr int width = 9;
+  static constexpr Look look{"yy-piece"};
   static void write(const FixedText<8>& value, char* out) {
     copyPadded(value.view().substr(0, 2), out, 2);
     out[2] = '-';
@@ -39,6 +41,7 @@ struct HyphenatedDesignator {
 
 // A size that no matrix has is unreadable.
 struct CovarianceSize : Integer<2> {
+  static constexpr Look look{"i", 0, 0, "unreadable above 9"};
   static bool read(std::string_view text, std::int32_t& value) {
     std::int32_t size = 0;
     if (!Integer::read(text, size) || size > kCovarianceDimension) {
@@ -53,6 +56,7 @@ struct CovarianceSize : Integer<2> {
 template <auto Part, class Format>
 struct DatePart {
   static constexpr int width = Format::width;
+  static constexpr Look look = Format::look;
   static void write(const InputDate& date, char* out) { Format::write(date.*Part, out); }
   static bool read(std::string_view text, InputDate& date) {
     return Format::read(text, date.*Part);

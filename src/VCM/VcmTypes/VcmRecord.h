@@ -91,6 +91,9 @@ struct VcmRecord {
   CovarianceMatrix covMtx{};    // equinoctial elements
   std::vector<ExtraLine> extraLines;
 
+  // Whether everything is the same; not what makes two records duplicates, which is equal() below.
+  friend bool operator==(const VcmRecord&, const VcmRecord&) = default;
+
   std::int32_t extraLineCount() const { return static_cast<std::int32_t>(extraLines.size()); }
 };
 

@@ -1,14 +1,11 @@
 // vcm check: what is wrong with files.
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <atomic>
 #include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "Host/HostCore.h"
-#include "VCM/VcmTree/Store.h"
 #include "commands/Command.h"
 #include "commands/Findings.h"
 #include "commands/Inputs.h"
@@ -33,14 +30,6 @@ Examples:
   vcm check catalogue.vcm today.json
   vcm check -q *.vcm && echo all good)";
 
-// A file that switched to direct addresses must not do so for the next one.
-void startAfresh() {
-  constexpr std::int32_t kOrdinaryKeys = 0;
-  std::int32_t status = vcm::kStored;
-  vcm::VcmEmptyTree(vcm::mediaVcm, status);
-  elsetkeymodeset(&kOrdinaryKeys);
-}
-
 void writeTally(StandardOutput& output, std::string_view title, const Tally& tally) {
   fmt::format_to(std::back_inserter(output.buffer()),
                  "{}: loaded {}, duplicate {}, bad {}, unreadable fields {}\n", title, tally.loaded,
@@ -56,17 +45,17 @@ struct Verdict {
   ExitCode exitCode() const { return unopened ? kFailed : tally.bad > 0 ? kBadInput : kFine; }
 };
 
-void checkFile(const std::string& file, bool quiet, StandardOutput& output,
-               std::atomic<std::int64_t>& seen, Verdict& verdict) {
+void checkFile(const std::string& file, bool quiet, StandardOutput& output, Progress& progress,
+               Verdict& verdict) {
   startAfresh();
-  Findings findings(output, seen);
+  Findings findings(output, progress);
   // The reader's own count line leaves out what is refused; the tally below takes its place.
   const Trace trace([&findings](bool isError, std::string_view line) {
     if (isError && !findings.reason(line)) {
       printMessage(line);
     }
   });
-  const std::int32_t code = readMessageFile(file, &findings);
+  const std::int32_t code = readMessageFile(file, findings, progress);
   verdict.tally += findings.tally();
   if (code != 0) {
     reportUnopened(file, code);
@@ -80,11 +69,10 @@ ExitCode check(const Inputs& inputs) {
   StandardOutput output;
   Verdict verdict;
   {
-    std::atomic<std::int64_t> seen = 0;
-    Progress progress([&seen] { return seen.load(); });
+    Progress progress("Checking");
     for (const std::string& file : inputs.files) {
       progress.file(file);
-      checkFile(file, inputs.quiet, output, seen, verdict);
+      checkFile(file, inputs.quiet, output, progress, verdict);
     }
   }
   if (inputs.files.size() > 1 && !inputs.quiet) {

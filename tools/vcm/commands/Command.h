@@ -14,6 +14,7 @@ namespace vcmtool {
 // leaves its exit code behind.
 void addCheckCommand(CLI::App& program, ExitCode& exitCode);
 void addConvertCommand(CLI::App& program, ExitCode& exitCode);
+void addDiffCommand(CLI::App& program, ExitCode& exitCode);
 void addExpandCommand(CLI::App& program, ExitCode& exitCode);
 void addGetCommand(CLI::App& program, ExitCode& exitCode);
 void addListCommand(CLI::App& program, ExitCode& exitCode);

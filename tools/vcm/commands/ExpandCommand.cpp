@@ -14,6 +14,7 @@
 #include "commands/Command.h"
 #include "commands/Inputs.h"
 #include "files/OutputFile.h"
+#include "terminal/Progress.h"
 #include "terminal/Screen.h"
 #include "vcm/Vcm.h"
 
@@ -85,7 +86,12 @@ ExitCode expand(const ExpandOptions& options) {
     return fail(kTemporary, errno);
   }
   const std::string ownName = fmt::format("/dev/fd/{}", fileno(expanded.get()));
-  if (const std::int32_t code = vcm::Vcm1LineToMany(input, ownName); code != 0) {
+  const auto expandAll = [&] {
+    Progress progress("Expanding", fileno(expanded.get()));
+    progress.file(input);
+    return vcm::Vcm1LineToMany(input, ownName);
+  };
+  if (const std::int32_t code = expandAll(); code != 0) {
     return fail(isReadable(input) ? kTemporary : input, code);
   }
   const int code = write(expanded.get(), output);

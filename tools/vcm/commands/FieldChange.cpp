@@ -5,13 +5,17 @@
 #include "VCM/VcmFormats/FieldDate.h"
 #include "VCM/VcmTypes/FixedText.h"
 #include "commands/FieldNames.h"
+#include "messages/FieldText.h"
 #include "messages/Forms.h"
 #include "messages/Latin1.h"
 #include "terminal/Screen.h"
 
 namespace vcmtool {
 
-namespace {
+FieldChange::FieldChange(std::string_view given)
+    : text(given),
+      field(fieldNamed(given.substr(0, given.find('=')))),
+      value(latin1OfUtf8(given.substr(given.find('=') + 1))) {}
 
 bool isFieldDate(std::string_view value) {
   vcm::InputDate date;
@@ -19,13 +23,6 @@ bool isFieldDate(std::string_view value) {
   return value.size() == vcm::kFieldDateWidth && value[kPoint] == '.' &&
          value.find(' ') == std::string_view::npos && vcm::readFieldDate(value, date);
 }
-
-}  // namespace
-
-FieldChange::FieldChange(std::string_view given)
-    : text(given),
-      field(fieldNamed(given.substr(0, given.find('=')))),
-      value(latin1OfUtf8(given.substr(given.find('=') + 1))) {}
 
 std::string wrongFieldChange(const std::string& text) {
   const std::size_t end = text.find('=');
@@ -52,13 +49,8 @@ std::string wrongFieldChange(const std::string& text) {
 
 bool isHeld(const vcm::VcmRecord& record, const FieldChange& change, const std::string& form) {
   const vcm::SingleField& field = *change.field;
-  const auto textOf = [&field](const vcm::VcmRecord& message) {
-    std::string text(static_cast<std::size_t>(field.width), ' ');
-    field.write(message, text.data());
-    return std::string(vcm::withoutLeadingBlanks(vcm::withoutTrailingBlanks(text)));
-  };
-  const std::string before = textOf(record);
-  const std::string after = textOf(asKeptBy(form, record));
+  const std::string before = fieldText(record, field);
+  const std::string after = fieldText(asKeptBy(form, record), field);
   const bool rounded = field.kind == vcm::FieldKind::real;
   if (before != after) {
     printMessage(

@@ -19,6 +19,9 @@ struct FieldChange {
   std::optional<std::string> value;  // none when a message cannot hold its characters
 };
 
+// Whether a text is a date as fields show it, with every digit in its place.
+bool isFieldDate(std::string_view value);
+
 // What is wrong with such a text, or an empty one. The library would cut texts and take dates as they
 // come.
 std::string wrongFieldChange(const std::string& text);

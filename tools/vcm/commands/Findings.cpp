@@ -1,5 +1,7 @@
 #include "commands/Findings.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -44,7 +46,7 @@ bool Findings::reason(std::string_view line) {
 void Findings::file(std::string_view name) { file_ = name; }
 
 void Findings::message(std::int64_t line) {
-  ++seen_;
+  progress_.count();
   firstLine_ = line;
   inMessage_ = true;
   reasons_.clear();
@@ -52,7 +54,7 @@ void Findings::message(std::int64_t line) {
 
 void Findings::unreadable(std::int64_t line, std::string_view field) {
   ++tally_.unreadable;
-  write(line, "warning: cannot read ", field);
+  write(line, Style::warning, "warning: cannot read ", field);
 }
 
 void Findings::outcome(std::int64_t line, MessageOutcome outcome) {
@@ -63,7 +65,7 @@ void Findings::outcome(std::int64_t line, MessageOutcome outcome) {
       break;
     case MessageOutcome::duplicate:
       ++tally_.duplicate;
-      write(firstLine_, "warning: ", "duplicate of a message already read");
+      write(firstLine_, Style::warning, "warning: ", "duplicate of a message already read");
       break;
     case MessageOutcome::bad:
       ++tally_.bad;
@@ -78,12 +80,14 @@ void Findings::outcome(std::int64_t line, MessageOutcome outcome) {
 
 void Findings::writeReasons(std::int64_t line) {
   for (const std::string& reason : reasons_) {
-    write(line, "", reason);
+    write(line, Style::error, "", reason);
   }
 }
 
-void Findings::write(std::int64_t line, std::string_view prefix, std::string_view text) {
-  fmt::format_to(std::back_inserter(output_.buffer()), "{}:{}: {}{}\n", file_, line, prefix, text);
+void Findings::write(std::int64_t line, Style style, std::string_view prefix,
+                     std::string_view text) {
+  const std::string place = styled(STDOUT_FILENO, style, fmt::format("{}:{}:", file_, line));
+  fmt::format_to(std::back_inserter(output_.buffer()), "{} {}{}\n", place, prefix, text);
   output_.lineDone();
 }
 

@@ -2,13 +2,14 @@
 #ifndef VCM_TOOLS_FINDINGS_H
 #define VCM_TOOLS_FINDINGS_H
 
-#include <atomic>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "VCM/VcmCardReading/ReadingObserver.h"
+#include "terminal/Colors.h"
+#include "terminal/Progress.h"
 #include "terminal/StandardOutput.h"
 
 namespace vcmtool {
@@ -25,9 +26,7 @@ struct Tally {
 // Watches the reading of one file and of those that it names, and writes a line for each finding.
 class Findings final : public vcm::ReadingObserver {
  public:
-  // `seen` counts the messages as they begin.
-  Findings(StandardOutput& output, std::atomic<std::int64_t>& seen)
-      : output_(output), seen_(seen) {}
+  Findings(StandardOutput& output, Progress& progress) : output_(output), progress_(progress) {}
 
   // An error line of the library. False when it belongs to no message.
   bool reason(std::string_view line);
@@ -40,11 +39,11 @@ class Findings final : public vcm::ReadingObserver {
   const Tally& tally() const { return tally_; }
 
  private:
-  void write(std::int64_t line, std::string_view prefix, std::string_view text);
+  void write(std::int64_t line, Style style, std::string_view prefix, std::string_view text);
   void writeReasons(std::int64_t line);
 
   StandardOutput& output_;
-  std::atomic<std::int64_t>& seen_;
+  Progress& progress_;
   Tally tally_;
   std::string file_;
   std::int64_t firstLine_ = 0;

@@ -1,17 +1,15 @@
 // vcm get: single fields of one satellite's messages.
 #include <CLI/CLI.hpp>
-#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "VCM/VcmTypes/FixedText.h"
+#include "VCM/VcmTree/Store.h"
 #include "commands/Command.h"
 #include "commands/FieldNames.h"
 #include "commands/Selection.h"
-#include "messages/PrintableText.h"
+#include "messages/FieldText.h"
 #include "terminal/StandardOutput.h"
-#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
@@ -31,21 +29,16 @@ struct GetOptions {
   std::vector<std::string> fields;
 };
 
-std::string valueOf(std::int64_t key, std::int32_t index) {
-  std::array<char, VCM_FIELD_VALUE_LENGTH> value;
-  VcmGetField(key, index, value.data());
-  return printable(vcm::withoutTrailingBlanks({value.data(), value.size()}));
-}
-
 ExitCode get(const GetOptions& options) {
   std::vector<std::int64_t> keys;
   const ExitCode loaded = loadSelection(options.selection, keys);
   StandardOutput output;
   for (const std::int64_t key : keys) {
+    const vcm::BorrowedRecord record(vcm::mediaVcm, key);
     std::string_view separator;
     for (const std::string& field : options.fields) {
       output.buffer().append(separator);
-      output.buffer().append(valueOf(key, fieldNamed(field)->index));
+      output.buffer().append(fieldText(*record, *fieldNamed(field)));
       separator = "\t";
     }
     output.buffer().push_back('\n');

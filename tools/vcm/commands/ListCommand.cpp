@@ -2,14 +2,20 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "VCM/VcmTree/Store.h"
 #include "commands/Command.h"
+#include "commands/Condition.h"
+#include "commands/FieldNames.h"
+#include "commands/FieldOrder.h"
 #include "commands/Inputs.h"
 #include "commands/Loading.h"
+#include "messages/FieldColumns.h"
 #include "messages/SatelliteTable.h"
 #include "terminal/Screen.h"
 #include "terminal/StandardOutput.h"
@@ -20,17 +26,24 @@ namespace vcmtool {
 namespace {
 
 constexpr const char* kFooter =
-    R"(Columns: satellite number, international designator, epoch (year, day of year,
-time, UTC), revolution number, dimension of the covariance (0: none), position
-and velocity in the Earth-centred inertial frame (true of date), key.
+    R"(
+Columns of the table: satellite number, international designator, epoch (year,
+day of year, time, UTC), revolution number, dimension of the covariance (0:
+none), position and velocity in the Earth-centred inertial frame (true of date),
+key. With --columns they are the fields that it names, in the units of vcm get.
 
 Orders: satellite (by number, then epoch), reverse (the same backwards), loaded
-(as read) and key.
+(as read) and key. Messages that --sort finds equal keep that order; a "-" before
+a field sorts it descending.
+
+Operators of --where: = != < <= > >=. Dates are 2016366235959.000 or
+2016-366T23:59:59.000Z. Of several conditions all must hold.
 
 Examples:
   vcm list catalogue.vcm
   vcm list --order loaded monday.vcm tuesday.one
-  vcm list -q catalogue.vcm | tail -n +2 | sort -k 3,4     by epoch
+  vcm list catalogue.vcm --where 'dragModel = JACCHIA 70' --where 'bTerm > 0.01'
+  vcm list catalogue.vcm --columns satNum,epoch,wtdRms --sort=-wtdRms,epoch
   zcat archive.vcm.gz | vcm list -)";
 
 const std::map<std::string, std::int32_t>& orders() {
@@ -45,6 +58,9 @@ const std::map<std::string, std::int32_t>& orders() {
 struct ListOptions {
   Inputs inputs;
   std::string order = "satellite";
+  std::vector<std::string> columns;  // none for the usual table
+  std::vector<std::string> conditions;
+  std::vector<std::string> sort;
 };
 
 std::vector<std::int64_t> loadedKeys(std::int32_t order) {
@@ -55,23 +71,69 @@ std::vector<std::int64_t> loadedKeys(std::int32_t order) {
   return keys;
 }
 
-ExitCode list(const ListOptions& options) {
-  const ExitCode loaded = loadFiles(options.inputs);
+std::vector<std::int64_t> selectedKeys(const ListOptions& options) {
+  std::vector<std::int64_t> keys = loadedKeys(orders().at(options.order));
+  for (const std::string& text : options.conditions) {
+    Condition condition;
+    readCondition(text, condition);
+    std::erase_if(keys, [&condition](std::int64_t key) {
+      return !condition.holds(*vcm::BorrowedRecord(vcm::mediaVcm, key));
+    });
+  }
+  sortByFields(keys, options.sort);
+  return keys;
+}
+
+void writeTable(StandardOutput& output, const std::vector<std::int64_t>& keys) {
   const SatelliteTable table(isTerminal(STDOUT_FILENO) &&
                              terminalColumns(STDOUT_FILENO) < SatelliteTable::kLineWidth);
-  StandardOutput output;
-  if (loaded != kFailed || VcmGetCount() > 0) {
-    table.appendHeader(output.buffer());
-  }
+  table.appendHeader(output.buffer());
   MessageArrays message;
-  for (const std::int64_t key : loadedKeys(orders().at(options.order))) {
+  for (const std::int64_t key : keys) {
     VcmRetrieveAllData(key, message.characters.data(), message.numbers.data());
     table.append(output.buffer(), key, message);
     if (!output.lineDone()) {
       break;
     }
   }
+}
+
+void writeColumns(StandardOutput& output, const std::vector<std::int64_t>& keys,
+                  const std::vector<std::string>& names) {
+  std::vector<const vcm::SingleField*> fields(names.size());
+  std::transform(names.begin(), names.end(), fields.begin(), fieldNamed);
+  FieldColumns table(fields);
+  for (const std::int64_t key : keys) {
+    table.measure(*vcm::BorrowedRecord(vcm::mediaVcm, key));
+  }
+  table.appendHeader(output.buffer());
+  for (const std::int64_t key : keys) {
+    table.append(output.buffer(), *vcm::BorrowedRecord(vcm::mediaVcm, key));
+    if (!output.lineDone()) {
+      break;
+    }
+  }
+}
+
+ExitCode list(const ListOptions& options) {
+  const ExitCode loaded = loadFiles(options.inputs);
+  StandardOutput output;
+  if (loaded == kFailed && VcmGetCount() == 0) {
+    return loaded;
+  }
+  const std::vector<std::int64_t> keys = selectedKeys(options);
+  if (options.columns.empty()) {
+    writeTable(output, keys);
+  } else {
+    writeColumns(output, keys, options.columns);
+  }
   return output.finish(loaded);
+}
+
+// Adds an option whose argument is a list separated by commas, and which may be repeated.
+CLI::Option* addList(CLI::App& command, const std::string& name, std::vector<std::string>& list,
+                     const std::string& description) {
+  return command.add_option(name, list, description)->delimiter(',')->allow_extra_args(false);
 }
 
 }  // namespace
@@ -84,7 +146,17 @@ void addListCommand(CLI::App& program, ExitCode& exitCode) {
       ->check(CLI::IsMember(&orders()))
       ->type_name("ORDER")
       ->capture_default_str();
-  command->footer(kFooter);
+  addList(*command, "--columns", options->columns, "Fields to show in place of the usual table")
+      ->type_name("FIELD,...")
+      ->check(unknownField);
+  command->add_option("--where", options->conditions, "Only messages that meet a condition")
+      ->type_name("'FIELD OP VALUE'")
+      ->allow_extra_args(false)
+      ->check(wrongCondition);
+  addList(*command, "--sort", options->sort, "Fields to sort by")
+      ->type_name("[-]FIELD,...")
+      ->check(wrongFieldOrder);
+  command->footer("Fields:\n" + fieldNames() + kFooter);
   command->callback([options, &exitCode] { exitCode = list(*options); });
 }
 

@@ -9,9 +9,25 @@
 #include "terminal/Progress.h"
 #include "terminal/Screen.h"
 #include "terminal/Trace.h"
-#include "vcm/Vcm.h"
 
 namespace vcmtool {
+
+namespace {
+
+class Counting final : public vcm::ReadingObserver {
+ public:
+  explicit Counting(Progress& progress) : progress_(progress) {}
+
+  void message(std::int64_t /*line*/) override { progress_.count(); }
+  void file(std::string_view /*name*/) override {}
+  void unreadable(std::int64_t /*line*/, std::string_view /*field*/) override {}
+  void outcome(std::int64_t /*line*/, vcm::MessageOutcome /*outcome*/) override {}
+
+ private:
+  Progress& progress_;
+};
+
+}  // namespace
 
 ExitCode loadFiles(const Inputs& inputs) {
   ExitCode result = kFine;
@@ -26,10 +42,11 @@ ExitCode loadFiles(const Inputs& inputs) {
       printMessage(line);
     }
   });
-  Progress progress([] { return VcmGetCount(); });
+  Progress progress("Loading");
+  Counting counting(progress);
   for (const std::string& file : inputs.files) {
     progress.file(file);
-    if (const std::int32_t code = readMessageFile(file); code != 0) {
+    if (const std::int32_t code = readMessageFile(file, counting, progress); code != 0) {
       reportUnopened(file, code);
       result = kFailed;
     }

@@ -5,12 +5,14 @@
 #include <cstdio>
 #include <string_view>
 
+#include "Host/HostCore.h"
 #include "Host/TraceLine.h"
 #include "VCM/VcmCardReading/CardReader.h"
 #include "VCM/VcmCardReading/CardType.h"
 #include "VCM/VcmCardReading/InputFile.h"
 #include "VCM/VcmCardReading/InputFileReader.h"
 #include "VCM/VcmFormats/MultiLineLayout.h"
+#include "VCM/VcmTree/Store.h"
 #include "VCM/VcmTypes/FixedText.h"
 #include "messages/Forms.h"
 #include "messages/JsonReading.h"
@@ -48,18 +50,27 @@ bool holdsUnread(std::string_view card) {
 
 }  // namespace
 
-std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer) {
+std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
+                             Progress& progress) {
   vcm::logInfo(fmt::format("Reading \"{}\"", name));
   vcm::OpenFile file;
   if (const std::int32_t code = vcm::openInputFile(name, file); code != 0) {
     return code;
   }
+  const Progress::Reading reading(progress, fileno(file.get()));
   if (isJson(file.get())) {
-    readJsonMessages(file.get(), name, observer);
+    readJsonMessages(file.get(), name, &observer);
     return 0;
   }
   vcm::CardReader cards(file.get());
-  return vcm::ReadVcmsFrFileUnit(cards, name, observer);
+  return vcm::ReadVcmsFrFileUnit(cards, name, &observer);
+}
+
+void startAfresh() {
+  constexpr std::int32_t kOrdinaryKeys = 0;
+  std::int32_t status = vcm::kStored;
+  vcm::VcmEmptyTree(vcm::mediaVcm, status);
+  elsetkeymodeset(&kOrdinaryKeys);
 }
 
 FileForm formOf(const std::string& name) {

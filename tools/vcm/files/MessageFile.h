@@ -7,12 +7,17 @@
 
 #include "VCM/VcmCardReading/ReadingObserver.h"
 #include "messages/Forms.h"
+#include "terminal/Progress.h"
 
 namespace vcmtool {
 
 // Adds every good message of a file to the store. Returns 0, or the nonzero code of an open that
 // failed.
-std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver* observer = nullptr);
+std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
+                             Progress& progress);
+
+// Empties the store. A file that switched to direct addresses does so no longer for the next one.
+void startAfresh();
 
 // What a file is written as again: in the form of its messages, the multi-line one where they are
 // mixed.

@@ -5,13 +5,15 @@
 #include "VCM/VcmTree/Store.h"
 #include "files/OutputFile.h"
 #include "messages/Forms.h"
+#include "terminal/Progress.h"
 #include "terminal/Screen.h"
+#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
 namespace {
 
-void writeStored(MessageWriter& writer, TextOutput& output) {
+void writeStored(MessageWriter& writer, TextOutput& output, Progress& progress) {
   writer.begin();
   {
     const vcm::StoreReading reading;
@@ -19,6 +21,7 @@ void writeStored(MessageWriter& writer, TextOutput& output) {
       const vcm::VcmRecord* const record = vcm::recordOf(node);
       if (record != nullptr && output.lineDone()) {
         writer.message(*record);
+        progress.count();
       }
     });
   }
@@ -33,7 +36,9 @@ int write(const std::string& fileName, const std::string& form, bool onlyIfAllFi
   }
   TextOutput output(file.descriptor());
   const auto writer = makeWriter(form, output);
-  writeStored(*writer, output);
+  Progress progress("Writing");
+  progress.file(fileName, VcmGetCount());
+  writeStored(*writer, output, progress);
   allFit = writer->allFit();
   if (const int code = output.finish(); code != 0) {
     return code;

@@ -31,8 +31,7 @@ class CsvMessages final : public MessageWriter {
     text(fmt::format("{}_size", kCovarianceName));
     for (std::size_t row = 0; row < kCovarianceLabels.size(); ++row) {
       for (std::size_t column = 0; column <= row; ++column) {
-        text(fmt::format("{}_{}_{}", kCovarianceName, kCovarianceLabels[row],
-                         kCovarianceLabels[column]));
+        text(covarianceElement(row, column));
       }
     }
     endRow();

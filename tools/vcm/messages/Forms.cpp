@@ -32,10 +32,12 @@ std::vector<std::string> formNames() {
 
 }  // namespace
 
+CLI::Option* takesForm(CLI::Option* option) {
+  return option->check(CLI::IsMember(formNames()))->type_name("FORM");
+}
+
 CLI::Option* addFormOption(CLI::App& command, std::string& form) {
-  return command.add_option("--to", form, "Form of the output")
-      ->check(CLI::IsMember(formNames()))
-      ->type_name("FORM");
+  return takesForm(command.add_option("--to", form, "Form of the output"));
 }
 
 std::unique_ptr<MessageWriter> makeWriter(const std::string& form, TextOutput& output) {
@@ -44,7 +46,13 @@ std::unique_ptr<MessageWriter> makeWriter(const std::string& form, TextOutput& o
 
 vcm::VcmRecord asKeptBy(const std::string& form, const vcm::VcmRecord& record) {
   ReadBack* const readBack = forms().at(form).readBack;
-  return readBack == nullptr ? record : readBack(record);
+  if (readBack == nullptr) {
+    return record;
+  }
+  vcm::VcmRecord kept = readBack(record);
+  // They follow their message.
+  kept.extraLines = record.extraLines;
+  return kept;
 }
 
 }  // namespace vcmtool

@@ -17,6 +17,9 @@ inline constexpr const char* kDefaultForm = "multi-line";
 inline constexpr const char* kOneLineForm = "one-line";
 inline constexpr const char* kJsonForm = "json";
 
+// Makes an option one that takes names of forms.
+CLI::Option* takesForm(CLI::Option* option);
+
 // Adds the option --to FORM.
 CLI::Option* addFormOption(CLI::App& command, std::string& form);
 

@@ -105,6 +105,11 @@ std::string VectorMember::component(std::size_t index) const {
   return fmt::format("{}_{}_{}", quantity, axes[index], unit);
 }
 
+std::string covarianceElement(std::size_t row, std::size_t column) {
+  return fmt::format("{}_{}_{}", kCovarianceName, kCovarianceLabels[row],
+                     kCovarianceLabels[column]);
+}
+
 std::size_t covarianceSize(const vcm::VcmRecord& record) {
   return static_cast<std::size_t>(std::clamp(record.covMtxSize, 0, vcm::kCovarianceDimension));
 }

@@ -58,6 +58,8 @@ inline constexpr std::array<std::string_view, vcm::kCovarianceDimension> kCovari
     "af", "ag", "L", "n", "chi", "psi", "B", "Bdot", "AGOM"};
 // Rows and columns of a record's covariance, 0 when there is none.
 std::size_t covarianceSize(const vcm::VcmRecord& record);
+// Name of an element where it stands alone.
+std::string covarianceElement(std::size_t row, std::size_t column);
 // Where an element stands in a triangle, which goes row by row; either half of the matrix may be
 // asked for.
 constexpr std::size_t triangleIndex(std::size_t row, std::size_t column) {

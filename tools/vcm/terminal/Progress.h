@@ -1,11 +1,11 @@
-// A line on standard error that tells how far a long load has come.
+// A line on standard error that tells how far long work has come.
 #ifndef VCM_TOOLS_PROGRESS_H
 #define VCM_TOOLS_PROGRESS_H
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
-#include <functional>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -13,31 +13,60 @@
 
 namespace vcmtool {
 
-// Lives as long as the loading, from whose thread it is used. Shows nothing for the first second
-// and never where standard error is no terminal.
+// Lives as long as the work, from whose thread it is used. Shows nothing for the first two seconds, or
+// as many as VCM_PROGRESS_DELAY says, and never where standard error is no terminal.
 class Progress {
  public:
-  // `count` tells how many messages there are by now; it is called by another thread.
-  explicit Progress(std::function<std::int64_t()> count);
+  // What is being done. Messages are counted or, where an open file is given, the megabytes that it
+  // grows to.
+  explicit Progress(std::string_view verb, int growing = kNone);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  // Loading goes on in this file.
-  void file(std::string_view name);
+  // The work goes on with this file: count and time begin anew. `total` is how many there are to count,
+  // where that is known.
+  void file(std::string_view name, std::int64_t total = 0);
+  // One more is done.
+  void count() { count_.fetch_add(1, std::memory_order_relaxed); }
+
+  // While it lives, the work reads an open file to its end.
+  class Reading;
 
  private:
   using Clock = std::chrono::steady_clock;
 
   void watch(const std::stop_token& stop);
-  std::string line(std::int64_t count);
+  std::string line();
+  double partDone(std::int64_t count) const;
+  void setReading(int descriptor);
 
-  std::function<std::int64_t()> count_;
-  Clock::time_point start_ = Clock::now();
+  static constexpr int kNone = -1;
+
+  const std::string_view verb_;
+  const int growing_;
+  std::atomic<std::int64_t> count_ = 0;
   std::mutex lock_;
   std::condition_variable_any stopped_;
-  std::string file_;  // guarded by lock_
+  // Guarded by lock_.
+  std::string file_;
+  Clock::time_point start_ = Clock::now();
+  std::int64_t total_ = 0;
+  int reading_ = kNone;
   std::jthread watcher_;
+};
+
+class Progress::Reading {
+ public:
+  Reading(Progress& progress, int descriptor) : progress_(progress) {
+    progress_.setReading(descriptor);
+  }
+  ~Reading() { progress_.setReading(kNone); }
+  Reading(const Reading&) = delete;
+  Reading& operator=(const Reading&) = delete;
+
+ private:
+  Progress& progress_;
 };
 
 }  // namespace vcmtool

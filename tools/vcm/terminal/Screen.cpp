@@ -9,6 +9,8 @@
 #include <string>
 #include <system_error>
 
+#include "terminal/Colors.h"
+
 namespace vcmtool {
 
 namespace {
@@ -51,16 +53,23 @@ int terminalColumns(int descriptor) {
 }
 
 int writeOutput(int descriptor, std::string_view text) {
+  if (!isTerminal(descriptor)) {
+    return writeAll(descriptor, text);  // which may wait for a reader: progress goes on
+  }
   const std::lock_guard<std::mutex> guard(screenLock);
   eraseUnderLock();
   return writeAll(descriptor, text);
 }
 
 void printMessage(std::string_view line) {
+  constexpr std::string_view kOwnName = "vcm:";
+  const std::size_t styledLength = line.starts_with(kOwnName) ? kOwnName.size() : 0;
+  const std::string name =
+      styledLength == 0 ? "" : styled(STDERR_FILENO, Style::error, line.substr(0, styledLength));
   const std::lock_guard<std::mutex> guard(screenLock);
   eraseUnderLock();
   // In one piece, so that the lines of several programs do not mix.
-  writeError(fmt::format("{}\n", line));
+  writeError(fmt::format("{}{}\n", name, line.substr(styledLength)));
 }
 
 void printFailure(std::string_view fileName, int code) {
