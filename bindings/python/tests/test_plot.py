@@ -49,6 +49,7 @@ def test_catalogue_shows_every_message_or_tells_of_it(copies: int) -> None:
     points = np.concatenate([each for each in clouds if len(each) > 1])
     assert len(points) == 2 * (len(table) - 2) - 1 and (points[:, 0] > 0).all()
     assert (orbits.get_xlabel(), orbits.get_xscale()) == ("altitude (km)", "log")
+    assert any(each.get_rasterized() for each in orbits.collections) == (copies > 1)
     years, counts = np.unique(np.delete(table["epoch"], 3).astype("M8[Y]"), return_counts=True)
     starts = [matplotlib.dates.num2date(bar.get_x()).date() for bar in epochs.patches]
     assert starts == years.astype("M8[D]").tolist()
