@@ -20,16 +20,32 @@ def pattern(text):
 def arguments():
     parser = argparse.ArgumentParser(prog="benchmarks/compare", description=__doc__)
     sizes = Sizes()
-    parser.add_argument("--rounds", type=int, default=5,
-                        help="how often everything runs (default %(default)s)")
-    parser.add_argument("--messages", type=int, default=sizes.messages,
-                        help="messages in a file that is loaded and saved (default %(default)s)")
-    parser.add_argument("--only", metavar="PATTERN", type=pattern, default="",
-                        help="only rows in which this regular expression is found")
-    parser.add_argument("--quick", action="store_true",
-                        help="few messages, one round: shows that everything works, and no more")
-    parser.add_argument("--times", action="store_true",
-                        help="also the medians of what the ratios are made of, in seconds and bytes")
+    parser.add_argument(
+        "--rounds", type=int, default=5, help="how often everything runs (default %(default)s)"
+    )
+    parser.add_argument(
+        "--messages",
+        type=int,
+        default=sizes.messages,
+        help="messages in a file that is loaded and saved (default %(default)s)",
+    )
+    parser.add_argument(
+        "--only",
+        metavar="PATTERN",
+        type=pattern,
+        default="",
+        help="only rows in which this regular expression is found",
+    )
+    parser.add_argument(
+        "--quick",
+        action="store_true",
+        help="few messages, one round: shows that everything works, and no more",
+    )
+    parser.add_argument(
+        "--times",
+        action="store_true",
+        help="also the medians of what the ratios are made of, in seconds and bytes",
+    )
     given = parser.parse_args()
     if given.quick:
         given.rounds = 1

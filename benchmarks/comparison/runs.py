@@ -25,6 +25,7 @@ def contests(sizes, rounds):
         def arguments():
             output = inputs.scratch(f"{name}-{form}.out")
             return (form, inputs.messages(form, sizes.messages), output, *more)
+
         return arguments
 
     def lookups(count):

@@ -26,26 +26,47 @@ def rows(sizes, pattern):
     many, some, few = f"{sizes.many:,}", f"{sizes.some:,}", f"{sizes.few:,}"
 
     def of_stored(entry, count, name, wanted):
-        return faster(f"`VcmGetField` {name}, {count} records", "map find and snprintf",
-                      f"{entry}/{name}", f"{entry}/map-{name}", wanted)
+        return faster(
+            f"`VcmGetField` {name}, {count} records",
+            "map find and snprintf",
+            f"{entry}/{name}",
+            f"{entry}/map-{name}",
+            wanted,
+        )
 
     def listing(order, name):
-        return faster(f"`VcmGetLoaded` order {order}, {many} keys", "walk of the map and sort",
-                      f"many/list-{name}", f"many/map-list-{name}", 0.5)
+        return faster(
+            f"`VcmGetLoaded` order {order}, {many} keys",
+            "walk of the map and sort",
+            f"many/list-{name}",
+            f"many/map-list-{name}",
+            0.5,
+        )
 
     def threads(entry, count):
-        return faster(f"`VcmGetField` by two threads, {count} records", "one thread",
-                      f"{entry}/two-threads", f"{entry}/one-thread", 1.3)
+        return faster(
+            f"`VcmGetField` by two threads, {count} records",
+            "one thread",
+            f"{entry}/two-threads",
+            f"{entry}/one-thread",
+            1.3,
+        )
 
     every = [
         faster(f"load {n} multi-line", "formatted reads", "lines/load", "formatted-lines/read", 30),
         faster(f"load {n} multi-line", "bare from_chars", "lines/load", "bare-lines/read", 2.5),
-        faster(f"load {n} one-line", "formatted reads", "one-line/load", "formatted-one-line/read",
-               30),
+        faster(
+            f"load {n} one-line", "formatted reads", "one-line/load", "formatted-one-line/read", 30
+        ),
         faster(f"save {n}", "formatted writes", "lines/save", "formatted-lines/write", 40),
         faster(f"save {n}", "bare to_chars", "lines/save", "bare-lines/write", 3),
-        faster(f"one-line to multi-line and back, {converted}", "internal reads and writes",
-               "one-line/convert", "formatted-one-line/convert", 30),
+        faster(
+            f"one-line to multi-line and back, {converted}",
+            "internal reads and writes",
+            "one-line/convert",
+            "formatted-one-line/convert",
+            30,
+        ),
         faster(f"find a key of {many}", "map find", "find/find", "find/map-find", 1),
         of_stored("many", many, "eciPosX", 1.5),
         of_stored("many", many, "bDot", 1.5),
@@ -56,19 +77,31 @@ def rows(sizes, pattern):
         listing(2, "loaded"),
         threads("many", many),
         threads("some", some),
-        Row(f"load time per message, {many}", f"of {few}", ("load-many/load", "load-few/load"),
-            lambda long, short: (long / sizes.many) / (short / sizes.few), 1.5, at_most=True),
-        Row(f"peak memory per message, {many}", "the record's size",
+        Row(
+            f"load time per message, {many}",
+            f"of {few}",
+            ("load-many/load", "load-few/load"),
+            lambda long, short: (long / sizes.many) / (short / sizes.few),
+            1.5,
+            at_most=True,
+        ),
+        Row(
+            f"peak memory per message, {many}",
+            "the record's size",
             ("load-many/peak-bytes", "load-fewest/peak-bytes", "load-many/record-bytes"),
             lambda peak, base, size: (peak - base) / (sizes.many - sizes.fewest) / size,
-            1.15, at_most=True),
+            1.15,
+            at_most=True,
+        ),
     ]
     return [row for row in every if pattern.search(f"{row.work} {row.against}")]
 
 
 def show(chosen, measured):
-    lines = [("Work", "Against", "Ratio (median)", "Spread (min-max)", "Wanted"),
-             ("---", "---", "---:", "---:", "---:")]
+    lines = [
+        ("Work", "Against", "Ratio (median)", "Spread (min-max)", "Wanted"),
+        ("---", "---", "---:", "---:", "---:"),
+    ]
     for row in chosen:
         wanted = f"{'at most ' if row.at_most else ''}{row.wanted:g}"
         if all(name in measured for name in row.measurements):

@@ -52,16 +52,23 @@ def on_terminal(columns, start):
             shown += os.read(master, 65536)
         except OSError:  # how a terminal ends
             os.close(master)
-            return shown.replace(b"\r\n", b"\n").replace(b"\r", rb"\r")\
-                .replace(b"\x1b", rb"\e"), process.wait()
+            return (
+                shown.replace(b"\r\n", b"\n").replace(b"\r", rb"\r").replace(b"\x1b", rb"\e"),
+                process.wait(),
+            )
         if not entered and re.search(rb"(\r[^\r]* messages, )[^\r]*\1", shown):
             entered = bool(os.write(master, b"\n"))
 
 
 def shown_by(prompt, command, directory, environment):
     def start(**streams):
-        return subprocess.Popen(["timeout", str(TIME_LIMIT), "bash", "-c", PRELUDE + command],
-                                cwd=directory, env=environment, **streams)
+        return subprocess.Popen(
+            ["timeout", str(TIME_LIMIT), "bash", "-c", PRELUDE + command],
+            cwd=directory,
+            env=environment,
+            **streams,
+        )
+
     if prompt:
         output, code = on_terminal(int(prompt), start)
         errors = b""
@@ -70,8 +77,11 @@ def shown_by(prompt, command, directory, environment):
         output, errors = process.communicate()
         code = process.returncode
     output += b"" if output.endswith(b"\n") or not output else b" (no end of line)\n"
-    return (output.decode("latin-1") + re.sub("(?m)^(?=.)", "! ", errors.decode("latin-1"))
-            + (f"[{code}]\n" if code else ""))
+    return (
+        output.decode("latin-1")
+        + re.sub("(?m)^(?=.)", "! ", errors.decode("latin-1"))
+        + (f"[{code}]\n" if code else "")
+    )
 
 
 def cases(text):
@@ -92,8 +102,11 @@ def run(lines, environment):
 
 def main():
     program, samples, *words = sys.argv[1:]
-    environment = os.environ | {"LC_ALL": "C", "program": str(pathlib.Path(program).resolve()),
-                                "samples": str(pathlib.Path(samples).resolve())}
+    environment = os.environ | {
+        "LC_ALL": "C",
+        "program": str(pathlib.Path(program).resolve()),
+        "samples": str(pathlib.Path(samples).resolve()),
+    }
     total = failed = 0
     for title, lines in cases(pathlib.Path(__file__).with_name("cases.txt").read_text()):
         if words and not any(word in title for word in words):

@@ -19,8 +19,10 @@ def in_synopsis(page):
     synopsis = page.partition(".Sh SYNOPSIS")[2].partition(".Sh DESCRIPTION")[0]
     found = re.findall(r'\.Ft (.*)\n\.F[no] (\w+)((?: "[^"\n]*"|\n\.Fa "[^"\n]*")*)', synopsis)
     quoted = re.compile('"([^"]*)"')
-    return {f"{result} {name}({', '.join(quoted.findall(arguments))})"
-            for result, name, arguments in found}
+    return {
+        f"{result} {name}({', '.join(quoted.findall(arguments))})"
+        for result, name, arguments in found
+    }
 
 
 def main():
@@ -31,7 +33,9 @@ def main():
     [interface] = [page.read_text() for page in pages if page.name == "vcm.3"]
     wanted, shown = declared(header.read_text()), in_synopsis(interface)
     problems += [f"vcm.3 lacks: {missing}" for missing in sorted(wanted - shown)]
-    problems += [f"vcm.3 declares what the header does not: {wrong}" for wrong in sorted(shown - wanted)]
+    problems += [
+        f"vcm.3 declares what the header does not: {wrong}" for wrong in sorted(shown - wanted)
+    ]
     print(*problems, sep="\n", end="\n" if problems else "")
     return 1 if problems or not wanted else 0
 

@@ -5,8 +5,13 @@ import re
 
 # The mark in front of a block that does not run in the page's test; see docs/testing.md.
 MARK = re.compile(r"<!-- (runs|from|slow): (.*) -->")
-SUFFIXES = {"python": r"\.py", "c": r"\.c", "cpp": r"\.cpp", "fortran": r"\.f90",
-            "cmake": r"(?:\.cmake|CMakeLists\.txt)"}
+SUFFIXES = {
+    "python": r"\.py",
+    "c": r"\.c",
+    "cpp": r"\.cpp",
+    "fortran": r"\.f90",
+    "cmake": r"(?:\.cmake|CMakeLists\.txt)",
+}
 
 
 @dataclasses.dataclass
@@ -36,8 +41,13 @@ def blocks(text):
         elif fence:
             mark = MARK.fullmatch(paragraph[-1].strip()) if paragraph else None
             names = re.findall(rf"`([\w./-]*{SUFFIXES.get(fence[1], '$.')})`", "\n".join(paragraph))
-            code = Block(fence[1].strip(), number + 1, "", mark and mark.groups(),
-                         names[-1] if names else None)
+            code = Block(
+                fence[1].strip(),
+                number + 1,
+                "",
+                mark and mark.groups(),
+                names[-1] if names else None,
+            )
         elif line.startswith("#"):
             can_show, paragraph = False, []
         elif line.strip():

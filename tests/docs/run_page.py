@@ -15,8 +15,10 @@ import tempfile
 from page import blocks, broken_links
 
 TIME_LIMIT = 300
-COMPILE = ("cc -std=c99 -pedantic -Wall -Wextra -Wno-unused -Werror blocks-of-page.c -o blocks-of-page"
-           " $(pkg-config --cflags --libs vcm) -lm && ./blocks-of-page")
+COMPILE = (
+    "cc -std=c99 -pedantic -Wall -Wextra -Wno-unused -Werror blocks-of-page.c -o blocks-of-page"
+    " $(pkg-config --cflags --libs vcm) -lm && ./blocks-of-page"
+)
 FRAME = """#include <inttypes.h>
 #include <math.h>
 #include <stdio.h>
@@ -33,8 +35,10 @@ LAST_BLOCK = "---- the last block ----"
 
 def environment(prefix):
     """Of somebody who installed the library there."""
+
     def before(name, *values):
         return os.pathsep.join([*map(str, values), *filter(None, [os.environ.get(name)])])
+
     libraries = [prefix / "lib", *(prefix / "lib").glob("*-linux-*")]
     return os.environ | {
         "PATH": before("PATH", prefix / "bin", pathlib.Path(sys.executable).parent),
@@ -42,7 +46,10 @@ def environment(prefix):
         "PKG_CONFIG_PATH": before("PKG_CONFIG_PATH", *(path / "pkgconfig" for path in libraries)),
         "CMAKE_PREFIX_PATH": before("CMAKE_PREFIX_PATH", prefix),
         "PYTHONPATH": before("PYTHONPATH", prefix / "lib/python3/dist-packages"),
-        "PYTHONDONTWRITEBYTECODE": "1", "LC_ALL": "C.UTF-8", "VCM_PAGE_PREFIX": str(prefix)}
+        "PYTHONDONTWRITEBYTECODE": "1",
+        "LC_ALL": "C.UTF-8",
+        "VCM_PAGE_PREFIX": str(prefix),
+    }
 
 
 class Session:
@@ -52,11 +59,20 @@ class Session:
         self.names, self.c_blocks, self.written = {"__name__": "__main__"}, "", {}
 
     def sh(self, code):
-        self.written = {name: line for name, line in self.written.items()
-                        if name not in code and str(pathlib.Path(name).parent) not in code.split()}
-        process = subprocess.run(["bash", "-euo", "pipefail", "-c", code], text=True, errors="replace",
-                                 stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                 stderr=subprocess.STDOUT, timeout=TIME_LIMIT)
+        self.written = {
+            name: line
+            for name, line in self.written.items()
+            if name not in code and str(pathlib.Path(name).parent) not in code.split()
+        }
+        process = subprocess.run(
+            ["bash", "-euo", "pipefail", "-c", code],
+            text=True,
+            errors="replace",
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT,
+            timeout=TIME_LIMIT,
+        )
         return process.stdout, process.returncode and f"exit code {process.returncode}"
 
     def python(self, code):
@@ -107,42 +123,63 @@ def wrong_with_mark(source, kind, value, code):
         text = (source / value).read_text() if (source / value).is_file() else ""
         return [f"{value} lacks: {line}" for line in lines if line not in text]
     wrong = []
-    for program, *arguments in filter(None, map(lambda line: shlex.split(line, comments=True), lines)):
+    for program, *arguments in filter(
+        None, map(lambda line: shlex.split(line, comments=True), lines)
+    ):
         path = source / program
         if not os.access(path, os.X_OK):
             wrong.append(f"{program} is no program of this tree")
             continue
-        how = [path, "--help"] if "python" in path.read_text().partition("\n")[0] else ["bash", "-n", path]
+        how = (
+            [path, "--help"]
+            if "python" in path.read_text().partition("\n")[0]
+            else ["bash", "-n", path]
+        )
         check = subprocess.run(how, capture_output=True, text=True, stdin=subprocess.DEVNULL)
         known = check.stdout + path.read_text()
-        known += "".join(main.read_text() for main in source.glob(f"{path.parent.name}/*/__main__.py")
-                         if str(main.parent.relative_to(source)) in known)
+        known += "".join(
+            main.read_text()
+            for main in source.glob(f"{path.parent.name}/*/__main__.py")
+            if str(main.parent.relative_to(source)) in known
+        )
         wrong += [check.stderr] if check.returncode else []
-        wrong += [f"{program} does not know {option}" for option in arguments
-                  if option.startswith("-") and option.partition("=")[0] not in known]
+        wrong += [
+            f"{program} does not know {option}"
+            for option in arguments
+            if option.startswith("-") and option.partition("=")[0] not in known
+        ]
     return wrong
 
 
 def shows(expected, output):
     """Whether the output is as expected; a line of three points stands for any lines. Blanks at the
     ends of lines do not count."""
+
     def trimmed(text):
         return "".join(line.rstrip() + "\n" for line in text.splitlines())
+
     pattern = "(?:.*\n)*?".join(map(re.escape, re.split(r"(?m)^\.\.\.\n", trimmed(expected))))
     return re.fullmatch(pattern, trimmed(output)) is not None
 
 
 def run(source, build, page):
     text = (source / page).read_text()
-    problems = [f"{page}: links to {target}, which is not there"
-                for target in broken_links(source / page)]
+    problems = [
+        f"{page}: links to {target}, which is not there" for target in broken_links(source / page)
+    ]
     if page in ("docs/README.md", "examples/README.md"):  # lists what is beside it
-        problems += [f"{page}: {path.name} is not listed" for path in (source / page).parent.iterdir()
-                     if path.suffix in (".md", ".c", ".cpp", ".f90", ".py") and path.name not in text
-                     and path.name != "README.md"]
+        problems += [
+            f"{page}: {path.name} is not listed"
+            for path in (source / page).parent.iterdir()
+            if path.suffix in (".md", ".c", ".cpp", ".f90", ".py")
+            and path.name not in text
+            and path.name != "README.md"
+        ]
     with tempfile.TemporaryDirectory() as directory:
         checkout = pathlib.Path(directory, "libvcm")
-        shutil.copytree(source, checkout, ignore=shutil.ignore_patterns("build", ".git", "__pycache__"))
+        shutil.copytree(
+            source, checkout, ignore=shutil.ignore_patterns("build", ".git", "__pycache__")
+        )
         (checkout / "build").mkdir()
         (checkout / "build/release").symlink_to(build)
         os.chdir(checkout)
@@ -150,21 +187,27 @@ def run(source, build, page):
         for block in blocks(text):
             where = f"{page}:{block.line}"
             if block.mark:
-                problems += [f"{where}: {what}" for what in wrong_with_mark(source, *block.mark, block.code)]
+                problems += [
+                    f"{where}: {what}" for what in wrong_with_mark(source, *block.mark, block.code)
+                ]
                 continue
             output, error = session.run(block)
             if error:
                 problems.append(f"{where}: {error}\n{block.code}{output}")
             elif block.expected is not None and not shows(block.expected, output):
                 problems.append(f"{where}: expected\n{block.expected}but got\n{output}")
-        problems += [f"{page}:{line}: no later block uses {name}" for name, line in session.written.items()]
+        problems += [
+            f"{page}:{line}: no later block uses {name}" for name, line in session.written.items()
+        ]
         os.chdir("/")
     return problems
 
 
 def main():
     source, build, prefix = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
-    if os.environ.get("VCM_PAGE_PREFIX") != str(prefix):  # the loader reads its variables at the start
+    if os.environ.get("VCM_PAGE_PREFIX") != str(
+        prefix
+    ):  # the loader reads its variables at the start
         os.execve(sys.executable, [sys.executable, *sys.argv], environment(prefix))
     problems = run(source, build, sys.argv[4])
     print(*problems, sep="\n", end="\n" if problems else "")
