@@ -104,6 +104,32 @@ def test_a_load_leaves_the_interpreter_to_others(tmp_path: Path) -> None:
     assert results == [vcm.LoadResult(100, 0, 0)]
 
 
+def test_an_interrupt_of_a_load_is_raised_and_nothing_is_lost(tmp_path: Path) -> None:
+    """It comes while the load waits for the pipe, and is seen in the sink."""
+    pipe = tmp_path / "pipe"
+    os.mkfifo(pipe)
+    code = f"""
+import fcntl, os, signal, termios, threading, vcm
+def fill():
+    text = open({str(CATALOGUE)!r}).read()
+    with open({str(pipe)!r}, "w") as stream:
+        stream.write(text[:400000])
+        stream.flush()
+        while any(fcntl.ioctl(stream, termios.FIONREAD, bytes(4))):
+            pass
+        for _ in range(200):
+            signal.pthread_kill(threading.main_thread().ident, signal.SIGINT)
+            os.sched_yield()
+        stream.write(text[400000:])
+threading.Thread(target=fill).start()
+try:
+    vcm.load({str(pipe)!r})
+except KeyboardInterrupt:
+    print(vcm.count())
+"""
+    assert run_python(code) == "300\n"
+
+
 def test_the_log_file_of_the_host_goes_on(tmp_path: Path) -> None:
     log = tmp_path / "log"
     code = f"import vcm\nprint(vcm.load({str(SAMPLES / 'broken.vcm')!r}).messages)\n4 in vcm.store"

@@ -19,6 +19,7 @@ import atexit
 import ctypes
 import logging
 import os
+import sys
 import threading
 from collections.abc import Callable, Sequence
 from contextlib import AbstractContextManager, nullcontext, suppress
@@ -80,6 +81,16 @@ def _make_sink() -> Any:
         finally:
             _thread.in_sink = False
 
+    former = sys.unraisablehook
+
+    def hook(unraisable: "sys.UnraisableHookArgs") -> None:
+        """What a signal handler raises on the way into `receive` cannot be caught there."""
+        if unraisable.object is receive:
+            _thread.raised = unraisable.exc_value
+        else:
+            former(unraisable)
+
+    sys.unraisablehook = hook
     return _Sink(receive)
 
 

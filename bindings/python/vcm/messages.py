@@ -145,7 +145,7 @@ def update(satKey: int, record: Record | Arrays) -> None:
     """Replaces a stored message, all but its satellite number and epoch.
 
     What a record does not carry, the common name and maneuver cards, is lost. The new values are
-    not held against limits. Raises NotFoundError.
+    not held against limits, but a message that breaks one is not changed any more: RefusedError. Raises NotFoundError.
     """
     arrays = record.to_arrays() if isinstance(record, Record) else record
     buffers = Buffers(arrays)

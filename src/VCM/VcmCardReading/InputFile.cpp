@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,11 +15,21 @@ namespace {
 
 bool canBeRewound(std::FILE* file) { return std::fseek(file, 0, SEEK_CUR) == 0; }
 
+// As fread; a signal that interrupts it ends nothing.
+std::size_t readBlock(std::vector<char>& block, std::FILE* from) {
+  std::size_t n = 0;
+  do {
+    std::clearerr(from);
+    n = std::fread(block.data(), 1, block.size(), from);
+  } while (n == 0 && std::ferror(from) != 0 && errno == EINTR);
+  return n;
+}
+
 // Returns 0 or what went wrong with the copy.
 int copyAll(std::FILE* from, std::FILE* to) {
   constexpr std::size_t kBlockSize = std::size_t{1} << 20;
   std::vector<char> block(kBlockSize);
-  for (std::size_t n = 0; (n = std::fread(block.data(), 1, block.size(), from)) > 0;) {
+  for (std::size_t n = 0; (n = readBlock(block, from)) > 0;) {
     if (std::fwrite(block.data(), 1, n, to) < n) {
       return streamError();
     }

@@ -23,7 +23,6 @@ class Elements:
     """Elements of many orbits; not-a-number where a state has none."""
 
     inclination: Numbers  # degrees, 0 to 180
-    eccentricity: Numbers
     perigee: Numbers  # altitude above the equatorial radius, km
     apogee: Numbers  # infinite on an open orbit
 
@@ -55,9 +54,7 @@ def elements(position: npt.ArrayLike, velocity: npt.ArrayLike) -> Elements:
         inclination = np.degrees(
             np.arctan2(np.hypot(momentum[:, 0], momentum[:, 1]), momentum[:, 2])
         )
-    return Elements(
-        *(np.where(is_orbit, each, np.nan) for each in (inclination, e, perigee, apogee))
-    )
+    return Elements(*(np.where(is_orbit, each, np.nan) for each in (inclination, perigee, apogee)))
 
 
 def of_table(table: Any) -> Elements:

@@ -38,10 +38,9 @@ def styled() -> Any:
 
 
 def prepare(figure: Any, width: float, height: float) -> Any:
-    """The figure given, or else a new one that needs no display; sized and laid out."""
+    """The figure given, or else a new one of this size that needs no display; laid out."""
     if figure is None:
-        figure = Figure()
-    figure.set_size_inches(width, height)
+        figure = Figure(figsize=(width, height))
     figure.set_layout_engine("constrained")
     return figure
 

@@ -4,18 +4,18 @@ from typing import Any
 
 import numpy as np
 
+from .._layout import ELEMENTS
 from ..record import Record
 from .correlations import correlations, faults
 from .style import BLUE, GREY, VERMILION, annotate, prepare, styled
 
-# The equinoctial elements, in the order of the covariance.
-NAMES = ("af", "ag", "L", "n", "chi", "psi", "B", "Bdot", "AGOM")
+# Of the elements, in the order of the covariance.
 _SYMBOLS = ("$a_f$", "$a_g$", "$L$", "$n$", r"$\chi$", r"$\psi$", "$B$", r"$\dot{B}$", "AGOM")
 
 
 def notes(record: Record) -> list[str]:
     """What is wrong with the covariance of a record."""
-    return faults(correlations(record.covariance), NAMES)
+    return faults(correlations(record.covariance), ELEMENTS)
 
 
 def covariance(record: Record, title: str, figure: Any) -> Any:
