@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <string_view>
 #include <variant>
 
@@ -60,11 +61,18 @@ bool readNumber(std::string_view value, const vcm::SingleField& field, double& n
   return true;
 }
 
+// What is typed by mistake would be another day in silence.
+bool isInCalendar(const vcm::InputDate& date) {
+  const int days = std::chrono::year(date.year).is_leap() ? 366 : 365;
+  return date.dayOfYear >= 1 && date.dayOfYear <= days && date.hour >= 0 && date.hour < 24 &&
+         date.minute >= 0 && date.minute < 60 && date.seconds >= 0 && date.seconds < 61;
+}
+
 bool readDate(std::string_view value, double& days) {
   vcm::InputDate date;
   const bool read = isFieldDate(value) ? vcm::readFieldDate(value, date) : readIsoDate(value, date);
   days = vcm::inputDateToDs50(date);
-  return read;
+  return read && isInCalendar(date);
 }
 
 std::string readValue(std::string_view value, Condition& condition) {

@@ -10,7 +10,8 @@ namespace {
 
 struct Form {
   MakeWriter* make;
-  ReadBack* readBack;  // null where nothing is lost
+  ReadBack* readBack;         // null where nothing of the message itself is lost
+  bool hasExtraLines = true;  // the maneuver cards that follow a message
 };
 
 const std::map<std::string, Form>& forms() {
@@ -18,7 +19,7 @@ const std::map<std::string, Form>& forms() {
       {kDefaultForm, {makeMultiLineWriter, readMultiLineBack}},
       {kOneLineForm, {makeOneLineWriter, readOneLineBack}},
       {kJsonForm, {makeJsonWriter, nullptr}},
-      {"csv", {makeCsvWriter, nullptr}}};
+      {"csv", {makeCsvWriter, nullptr, false}}};
   return names;
 }
 
@@ -45,13 +46,9 @@ std::unique_ptr<MessageWriter> makeWriter(const std::string& form, TextOutput& o
 }
 
 vcm::VcmRecord asKeptBy(const std::string& form, const vcm::VcmRecord& record) {
-  ReadBack* const readBack = forms().at(form).readBack;
-  if (readBack == nullptr) {
-    return record;
-  }
-  vcm::VcmRecord kept = readBack(record);
-  // They follow their message.
-  kept.extraLines = record.extraLines;
+  const Form& keeping = forms().at(form);
+  vcm::VcmRecord kept = keeping.readBack == nullptr ? record : keeping.readBack(record);
+  kept.extraLines = keeping.hasExtraLines ? record.extraLines : decltype(record.extraLines){};
   return kept;
 }
 
