@@ -119,9 +119,15 @@ class Session:
 def wrong_with_mark(source, kind, value, code):
     """Why a marked block may not stay unrun; empty when it may."""
     lines = [line.split("  #")[0].strip() for line in code.splitlines() if line.strip()]
-    if kind != "slow":  # the named file has each of its lines
+    if kind != "slow":  # the named file has each of its lines, with more behind or not
         text = (source / value).read_text() if (source / value).is_file() else ""
-        return [f"{value} lacks: {line}" for line in lines if line not in text]
+        there = [re.sub(r"^\s*(step )?", "", line) + " " for line in text.splitlines()]
+        plain = [line.removeprefix("sudo ") + " " for line in lines]
+        return [
+            f"{value} lacks: {line}"
+            for line in plain
+            if not any(map(lambda t: t.startswith(line), there))
+        ]
     wrong = []
     for program, *arguments in filter(
         None, map(lambda line: shlex.split(line, comments=True), lines)

@@ -12,7 +12,7 @@ cmake -S "$here/framework" -B "$scratch/framework" -DVCM_SOURCE="$source" >/dev/
 cmake --build "$scratch/framework" -j2 >/dev/null
 
 cmake -S "$source" -B "$scratch/build" -DCMAKE_BUILD_TYPE=Release -DVCM_DEVELOPER=OFF \
-  -DVCM_BUNDLED_HOST=OFF -DVCM_HOST_LIBRARY_DIR="$scratch/framework" >/dev/null
+  -DVCM_HOST_LIBRARY_DIR="$scratch/framework" >/dev/null
 cmake --build "$scratch/build" -j2 >/dev/null
 cmake --install "$scratch/build" --prefix "$scratch/installed" >/dev/null
 if find "$scratch/installed" | grep hostcore; then
