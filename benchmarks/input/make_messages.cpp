@@ -76,6 +76,17 @@ void makeOneLines(const std::vector<std::string>& sample, int messages, std::ost
   }
 }
 
+bool isOf(std::string_view form, const std::vector<std::string>& sample) {
+  if (form == "lines") {
+    return std::find(sample.begin(), sample.end(), vcm::kMultiLineLayout.front().text) !=
+           sample.end();
+  }
+  constexpr std::size_t kLeast = 1000;
+  return form == "one-line" && !sample.empty() &&
+         std::all_of(sample.begin(), sample.end(),
+                     [](const std::string& line) { return line.size() >= kLeast; });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -85,6 +96,10 @@ int main(int argc, char** argv) {
   }
   const std::string_view form = argv[1];
   const std::vector<std::string> sample = linesOf(argv[2]);
+  if (!isOf(form, sample)) {
+    std::cerr << "make_messages: " << argv[2] << " holds no messages of the form " << form << '\n';
+    return 2;
+  }
   std::ofstream output(argv[3]);
   const int messages = std::atoi(argv[4]);
   if (form == "lines") {
