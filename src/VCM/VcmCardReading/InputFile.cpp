@@ -20,6 +20,7 @@ std::size_t readBlock(std::vector<char>& block, std::FILE* from) {
   std::size_t n = 0;
   do {
     std::clearerr(from);
+    errno = 0;
     n = std::fread(block.data(), 1, block.size(), from);
   } while (n == 0 && std::ferror(from) != 0 && errno == EINTR);
   return n;
@@ -29,7 +30,7 @@ std::size_t readBlock(std::vector<char>& block, std::FILE* from) {
 int copyAll(std::FILE* from, std::FILE* to) {
   constexpr std::size_t kBlockSize = std::size_t{1} << 20;
   std::vector<char> block(kBlockSize);
-  for (std::size_t n = 0; (n = readBlock(block, from)) > 0;) {
+  for (std::size_t n = 0; std::feof(from) == 0 && (n = readBlock(block, from)) > 0;) {
     if (std::fwrite(block.data(), 1, n, to) < n) {
       return streamError();
     }

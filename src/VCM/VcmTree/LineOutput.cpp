@@ -1,6 +1,7 @@
 #include "VCM/VcmTree/LineOutput.h"
 
 #include <algorithm>
+#include <cerrno>
 
 namespace vcm {
 
@@ -8,7 +9,10 @@ namespace {
 constexpr std::size_t kBufferSize = std::size_t{1} << 20;
 }
 
-LineOutput::LineOutput(std::FILE* stream) : stream_(stream), buffer_(kBufferSize) {}
+LineOutput::LineOutput(std::FILE* stream) : stream_(stream), buffer_(kBufferSize) {
+  // Of a buffer of the stream's own, what a signal interrupts would be lost.
+  static_cast<void>(std::setvbuf(stream, nullptr, _IONBF, 0));
+}
 
 void LineOutput::line(std::string_view text) {
   char* const at = begin(text.size());
@@ -32,7 +36,11 @@ void LineOutput::end(const char* last) {
 }
 
 void LineOutput::flush() {
-  static_cast<void>(std::fwrite(buffer_.data(), 1, used_, stream_));
+  std::size_t written = 0;
+  do {
+    errno = 0;
+    written += std::fwrite(buffer_.data() + written, 1, used_ - written, stream_);
+  } while (written < used_ && errno == EINTR);
   used_ = 0;
 }
 
