@@ -13,7 +13,7 @@ from pathlib import Path
 import pytest
 import vcm
 from conftest import CATALOGUE, SAMPLES, message, run_python
-from vcm import _locks
+from vcm import _locks, _trace
 
 
 def side_by_side(*actions: Callable[[], None]) -> None:
@@ -83,10 +83,12 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
 
 def test_a_handler_that_interrupts_a_listing_is_refused() -> None:
     """By then the array of the keys has its length."""
-    with _locks.growing:
+    def interrupt() -> None:
         for action in (vcm.keys, partial(vcm.add, message(1)), partial(vcm.load, CATALOGUE)):
             with pytest.raises(vcm.VcmError, match="interrupts"):
                 action()
+
+    _trace.call_holding(_locks.growing, interrupt)
     assert vcm.add(message(1)) in vcm.keys()
 
 
@@ -128,6 +130,67 @@ except KeyboardInterrupt:
     print(vcm.count())
 """
     assert run_python(code) == "300\n"
+
+
+def test_signals_cut_no_save_short(tmp_path: Path) -> None:
+    """They come while the save waits for a full pipe."""
+    pipe = tmp_path / "pipe"
+    os.mkfifo(pipe)
+    code = f"""
+import fcntl, os, signal, termios, threading, vcm
+read = []
+def drain():
+    with open({str(pipe)!r}, "rb") as stream:
+        held, before = bytes(4), None
+        while held != before or not any(held):
+            before, held = held, fcntl.ioctl(stream, termios.FIONREAD, held)
+            for _ in range(200):
+                signal.pthread_kill(threading.main_thread().ident, signal.SIGALRM)
+                os.sched_yield()
+        read.append(stream.read())
+signal.signal(signal.SIGALRM, lambda *_: None)
+vcm.load({str(CATALOGUE)!r})
+reader = threading.Thread(target=drain)
+reader.start()
+vcm.save({str(pipe)!r})
+reader.join()
+vcm.save({str(tmp_path / "whole")!r})
+print(read[0] == open({str(tmp_path / "whole")!r}, "rb").read())
+"""
+    assert run_python(code) == "True\n"
+
+
+def test_interrupts_of_adds_leave_nothing_behind() -> None:
+    """No lock that is held, and nothing for a later call to raise."""
+    code = f"""
+import signal, vcm
+from vcm._locks import growing
+came = 2
+def tick(*_):
+    global came
+    came += 1
+    if came <= 2: raise KeyboardInterrupt
+def add_until_both_came():
+    try:
+        while came < 2:
+            for text in {[message(1), message(1, "KM):", "KM:")]!r}:
+                try: vcm.add(text)
+                except vcm.VcmError: pass
+    except KeyboardInterrupt:
+        while came < 2: pass
+vcm.count()
+signal.signal(signal.SIGALRM, tick)
+for _ in range(500):
+    signal.setitimer(signal.ITIMER_REAL, 0.0003, 0.00005)
+    try:
+        came = 0
+        add_until_both_came()
+    except KeyboardInterrupt: pass
+    signal.setitimer(signal.ITIMER_REAL, 0)
+    assert not growing.locked()
+    vcm.count()
+"""
+    assert run_python(code) == ""
 
 
 def test_the_log_file_of_the_host_goes_on(tmp_path: Path) -> None:

@@ -26,6 +26,7 @@ from contextlib import AbstractContextManager, nullcontext, suppress
 from typing import Any, NamedTuple, ParamSpec, TypeVar
 
 from . import _library
+from ._locks import growing
 from .errors import VcmError
 
 P = ParamSpec("P")
@@ -45,6 +46,7 @@ class Line(NamedTuple):
 class _Thread(threading.local):
     lines: list[Line] | None = None  # of the call that runs; None: lines of others, not for us
     in_sink = False
+    grows = False  # it holds the lock `growing`
     raised: BaseException | None = None  # in the sink
 
 
@@ -84,8 +86,12 @@ def _make_sink() -> Any:
     former = sys.unraisablehook
 
     def hook(unraisable: "sys.UnraisableHookArgs") -> None:
-        """What a signal handler raises on the way into `receive` cannot be caught there."""
-        if unraisable.object is receive:
+        """What a signal handler raises on the way into `receive` cannot be caught there.
+
+        A program that replaces this hook without calling it loses such an exception.
+        """
+        trace = unraisable.exc_traceback
+        if trace is not None and trace.tb_frame.f_code is receive.__code__:
             _thread.raised = unraisable.exc_value
         else:
             former(unraisable)
@@ -143,8 +149,14 @@ def call_holding(
     A handler of the application may be waiting for it, in another thread that holds the handler's
     lock.
     """
+    if lock is growing and _thread.grows:
+        raise VcmError("a signal handler or finalizer interrupts vcm while it adds or lists")
     with lock:
-        result, lines = _listened(function, *args, **kwargs)
+        outer, _thread.grows = _thread.grows, _thread.grows or lock is growing
+        try:
+            result, lines = _listened(function, *args, **kwargs)
+        finally:
+            _thread.grows = outer
     for line in lines:
         logger.log(logging.ERROR if line.is_error else logging.INFO, "%s", line.text)
     return result, lines
@@ -164,8 +176,8 @@ def _listened(function: Callable[P, T], *args: P.args, **kwargs: P.kwargs) -> tu
         result = function(*args, **kwargs)
     finally:
         _thread.lines = outer
-    if _thread.raised is not None:
         raised, _thread.raised = _thread.raised, None
+    if raised is not None:
         raise raised
     return result, lines
 
