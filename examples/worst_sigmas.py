@@ -16,7 +16,7 @@ def worst(how_many: int) -> pandas.DataFrame:
     """The satellites with the largest radial sigma, the worst first."""
     columns = ["satNum", "intlDes", "epoch", "posSigmasU", "wtdRms"]
     frame = pandas.DataFrame(vcm.table(columns=columns))
-    newest = frame.sort_values("epoch").groupby("satNum", as_index=False).last()
+    newest = frame.sort_values("epoch").drop_duplicates("satNum", keep="last")
     return newest.nlargest(how_many, "posSigmasU")
 
 

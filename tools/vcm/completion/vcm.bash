@@ -13,7 +13,7 @@ _vcm() {
   done
   words[-1]=${words[-1]#[\'\"]}
   # Names of files come by default; none where the program says that nothing fits.
-  COMPREPLY=($("${COMP_WORDS[0]/#\~/$HOME}" --complete "${words[@]}" 2>/dev/null))
+  COMPREPLY=($("${COMP_WORDS[0]/#\~\//"$HOME"/}" --complete "${words[@]}" 2>/dev/null))
   if (($? == 1)); then
     compopt +o default 2>/dev/null
   fi
