@@ -4,7 +4,6 @@
 
 #include <cctype>
 #include <span>
-#include <tuple>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -16,20 +15,6 @@
 #include "support/PlainNumbers.h"
 
 using Views = std::vector<std::string_view>;
-
-// clang-format off
-inline bool same(const vcm::VcmRecord& a, const vcm::VcmRecord& b) {
-  const auto all = [](const vcm::VcmRecord& r) {
-    return std::tie(
-        r.parseStatus, r.satNum, r.intlDes, r.commonName, r.epoch, r.epochRev, r.j2kPos, r.j2kVel, r.eciPos, r.eciVel, r.efgPos, r.efgVel,
-        r.geoName, r.geoZonals, r.geoTesserals, r.dragModel, r.lunarSolar, r.radPress, r.earthTides, r.intrackThrust, r.bTerm, r.bDot,
-        r.agom, r.edr, r.thrustAccel, r.cmOffset, r.f10, r.avgF10, r.avgAp, r.taiMinusUtc, r.ut1MinusUtc, r.ut1Rate, r.polarMotionX,
-        r.polarMotionY, r.nutationTerms, r.leapSecondTime, r.integMode, r.coordSys, r.partials, r.stepMode, r.fixedStep, r.stepSelection,
-        r.initStepSize, r.errorControl, r.posSigmas, r.velSigmas, r.covMtxSize, r.wtdRms, r.covMtx, r.extraLines);
-  };
-  return all(a) == all(b);
-}
-// clang-format on
 
 // Nearly all values of a covariance have been read before.
 inline std::optional<double> plainValue(std::string_view text, int impliedDecimals) {

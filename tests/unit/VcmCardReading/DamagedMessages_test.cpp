@@ -41,7 +41,7 @@ TEST(DamagedMessages, TextsWithAByteChanged) {
       for (const std::string& text : changedAt(at, good)) {
         const vcm::MessageText argument(text.c_str());
         const vcm::VcmRecord plain = plainText(text.c_str());  // a NUL ends it
-        ASSERT_TRUE(same(vcm::AnyVcmStrings2Vcm(argument.view()), plain)) << at << ": " << text;
+        ASSERT_TRUE(vcm::AnyVcmStrings2Vcm(argument.view()) == plain) << at << ": " << text;
       }
     }
   }
@@ -65,7 +65,7 @@ TEST(DamagedMessages, FilesWithAByteChanged) {
         }
         auto rest = std::span(lines).subspan(start);
         const vcm::VcmRecord plain = plainMessage(rest, true, isBare);
-        ASSERT_TRUE(same(vcm::ReadVCMFrFileUnit(cards, type), plain)) << at << ": " << text;
+        ASSERT_TRUE(vcm::ReadVCMFrFileUnit(cards, type) == plain) << at << ": " << text;
         ASSERT_EQ(cards.lineNumber(), std::ssize(lines) - std::ssize(rest)) << at << ": " << text;
         start += static_cast<std::size_t>(std::ranges::count(text, '\n'));
       }
@@ -104,7 +104,7 @@ TEST(DamagedMessages, FilesCutAnywhere) {
         counts.bad -= bad ? 1 : 0;
         if (!bad && vcm::ValidateVcmValues(plain) == vcm::kGood) {  // else counted nowhere
           vcm::VcmFindRec(vcm::mediaVcm, vcm::createSatKeyFrVcm(plain), stored);
-          ASSERT_TRUE(same(stored, plain)) << content;
+          ASSERT_TRUE(stored == plain) << content;
           --counts.loaded;
         }
       }
