@@ -1,5 +1,4 @@
-# Sourced by the other scripts: installs the Debian packages that a step needs and lacks.
-# usage: need_packages PACKAGE...
+# Sourced by the other scripts.
 
 # Debian's own programs before others of their names: another Python does not see Debian's modules.
 PATH=$(getconf PATH):/usr/sbin:/sbin:$PATH
@@ -7,6 +6,7 @@ PATH=$(getconf PATH):/usr/sbin:/sbin:$PATH
 as_root=()
 [ "$(id -u)" -eq 0 ] || as_root=(sudo)
 
+# Installs the Debian packages of these that are missing.
 need_packages() {
   local missing=() package
   for package in "$@"; do
@@ -18,6 +18,15 @@ need_packages() {
   "${as_root[@]}" apt-get update -qq
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
     "${missing[@]}" >/dev/null
+}
+
+# Builds in a directory: on a terminal with a line that tells how far it is, elsewhere in silence.
+build() {
+  if [ -t 1 ]; then
+    cmake --build "$1"
+  else
+    cmake --build "$1" -- --quiet
+  fi
 }
 
 build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev nlohmann-json3-dev)
