@@ -444,8 +444,10 @@ VCM_API int32_t VcmGetField(int64_t satKey, int32_t fieldIndex,
  *         binary tree."; "ValidateVcmValues: ..." for each limit that the changed message would
  *         break; "VcmSetField: Cannot read "<value>" as field <name>." for a text that is no date.
  *
- * A text that is no number counts as 0, with the host's own line in the error trace. Of two threads
- * that change the same message at the same time, the later one's message stays as a whole.
+ * Blanks within a number are left out, as in the columns of a message; one that is all blank counts
+ * as 0. So does a text that is no number, with the host's own line in the error trace: check what a
+ * user typed before. Of two threads that change the same message at the same time, the later one's
+ * message stays as a whole.
  */
 VCM_API int32_t VcmSetField(int64_t satKey, int32_t fieldIndex, const char* valueStr) VCM_NOEXCEPT;
 
