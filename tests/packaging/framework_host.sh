@@ -11,8 +11,9 @@ trap 'rm -rf "$scratch"' EXIT
 cmake -S "$here/framework" -B "$scratch/framework" -DVCM_SOURCE="$source" >/dev/null
 cmake --build "$scratch/framework" -j2 >/dev/null
 
-cmake -S "$source" -B "$scratch/build" -DCMAKE_BUILD_TYPE=Release -DVCM_DEVELOPER=OFF \
-  -DVCM_HOST_LIBRARY_DIR="$scratch/framework" >/dev/null
+# Also in a tree that was made for the bundled host.
+cmake -S "$source" -B "$scratch/build" -DCMAKE_BUILD_TYPE=Release -DVCM_DEVELOPER=OFF >/dev/null
+cmake -S "$source" -B "$scratch/build" -DVCM_HOST_LIBRARY_DIR="$scratch/framework" >/dev/null
 cmake --build "$scratch/build" -j2 >/dev/null
 cmake --install "$scratch/build" --prefix "$scratch/installed" >/dev/null
 if find "$scratch/installed" | grep hostcore; then
