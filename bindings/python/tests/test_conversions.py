@@ -1,6 +1,8 @@
 """Texts, records and arrays into one another."""
 
 import re
+from functools import partial
+from typing import Any
 
 import pytest
 import vcm
@@ -27,8 +29,23 @@ def test_every_form_says_the_same() -> None:
         assert record.replace(leapSecondTime=unknown) == vcm.to_record(one_line)
 
 
-@pytest.mark.parametrize("text", ["", "hello", "<>", TEXTS[0][:900], "\0", "€"])
-def test_what_is_no_message(text: str) -> None:
-    for convert in (vcm.to_lines, vcm.to_one_line, vcm.to_arrays, vcm.to_record):
-        with pytest.raises(vcm.RefusedError):
-            print(convert.__name__, convert(text))
+@pytest.mark.parametrize(
+    "error, messages",
+    [
+        (vcm.RefusedError, ["", "hello", "<>", TEXTS[0][:900], "\0", "€"]),
+        (vcm.RefusedError, [([13.0], ""), ([0] * 513, " " * 512), (["x"] * 512, " " * 512)]),
+        (
+            TypeError,
+            [None, 5, b"x", (5, " " * 512), ([0] * 512, b" " * 512), [[0] * 512, " " * 512]],
+        ),
+    ],
+)
+def test_what_is_no_message(error: type[Exception], messages: list[Any]) -> None:
+    key = vcm.add(TEXTS[0])
+    stored = vcm.get_arrays(key)
+    convert = [vcm.to_lines, vcm.to_one_line, vcm.to_arrays, vcm.to_record]
+    for message in messages:
+        for take in (*convert, vcm.add, partial(vcm.update, key)):
+            with pytest.raises(error):
+                print(take, message, take(message))
+    assert vcm.get_arrays(key) == stored and vcm.keys() == [key]

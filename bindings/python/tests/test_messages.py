@@ -98,6 +98,8 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     square = [[i + j for j in range(6)] for i in range(6)]
     changed = record.replace(bTerm=0.5, covariance=square, leapSecondTime=datetime(2017, 1, 1))
     changed = changed.replace(geoName="WGS-84 and more")  # of which six characters are kept
+    vcm.update(key, vcm.to_lines(changed))
+    assert vcm.get(key) == changed
     vcm.store[key] = changed.replace(satNum=6)  # which stays as it is
     assert vcm.get(key) == changed
     vcm.save(tmp_path / "saved")

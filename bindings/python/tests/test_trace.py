@@ -83,6 +83,7 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
 
 def test_a_handler_that_interrupts_a_listing_is_refused() -> None:
     """By then the array of the keys has its length."""
+
     def interrupt() -> None:
         for action in (vcm.keys, partial(vcm.add, message(1)), partial(vcm.load, CATALOGUE)):
             with pytest.raises(vcm.VcmError, match="interrupts"):

@@ -1,15 +1,12 @@
 """One message, as a record of typed fields, and its array form."""
 
-import ctypes
 import dataclasses
-from array import array
-from collections.abc import Sequence
+from collections.abc import Sequence, Sized
 from dataclasses import dataclass
 from datetime import datetime
 from typing import Any, NamedTuple
 
 from . import _layout
-from ._encoding import encode
 from ._optional import Array, matrix, vector
 from .dates import to_datetime, to_days
 from .errors import RefusedError
@@ -23,6 +20,16 @@ class Arrays(NamedTuple):
 
     numbers: Sequence[float]
     texts: str
+
+
+def whole(message: object) -> Arrays:
+    """A message that has to be in the array form; RefusedError where that has another length."""
+    match message:
+        case (numbers, str(texts)) if isinstance(message, tuple) and isinstance(numbers, Sized):
+            if len(numbers) != _layout.NUM_ARRAY_LENGTH or len(texts) != _layout.CHAR_ARRAY_LENGTH:
+                raise RefusedError("the array form has 512 numbers and 512 characters")
+            return Arrays(numbers, texts)  # type: ignore[arg-type]
+    raise TypeError(f"a message is a text, a Record or Arrays, not {type(message).__name__}")
 
 
 @dataclass(frozen=True, eq=False, kw_only=True)
@@ -147,7 +154,7 @@ class Record:
     @classmethod
     def from_arrays(cls, arrays: "Arrays | tuple[Sequence[float], str]") -> "Record":
         """The record of a message in the array form."""
-        numbers, texts = arrays
+        numbers, texts = whole(arrays)
         fields: dict[str, Any] = {}
         for name, (first, length) in _layout.NUMBERS.items():
             if name == "covariance":
@@ -177,25 +184,3 @@ _PLACES = [
     [max(i, j) * (max(i, j) + 1) // 2 + min(i, j) for j in range(len(_layout.ELEMENTS))]
     for i in range(len(_layout.ELEMENTS))
 ]
-
-
-class Buffers:
-    """The two arrays that go to a function of the library and come back."""
-
-    def __init__(self, arrays: "Arrays | tuple[Sequence[float], str] | None" = None) -> None:
-        self.numbers = (ctypes.c_double * _layout.NUM_ARRAY_LENGTH)()
-        self.texts = (ctypes.c_char * _layout.CHAR_ARRAY_LENGTH)()
-        if arrays is not None:
-            numbers, texts = arrays
-            if len(numbers) > len(self.numbers) or len(texts) > len(self.texts):
-                raise RefusedError("the array form has 512 numbers and 512 characters")
-            self._view()[: len(numbers)] = memoryview(array("d", numbers))
-            self.texts.raw = encode(texts).ljust(len(self.texts))
-
-    def arrays(self) -> Arrays:
-        """What they hold."""
-        return Arrays(self._view().tolist(), self.texts.raw.decode("latin-1"))
-
-    def _view(self) -> memoryview:
-        """The numbers without ctypes, which goes through them one by one."""
-        return memoryview(self.numbers).cast("B").cast("d")
