@@ -3,7 +3,7 @@
 import numpy as np
 import pytest
 import vcm
-from conftest import CATALOGUE, SAMPLES, message, run_python
+from conftest import CATALOGUE, SAMPLES, UNFIT, message, run_python
 
 
 def columns_of(record: vcm.Record) -> dict[str, object]:
@@ -52,10 +52,15 @@ def test_without_numpy_vectors_are_tuples() -> None:
     shown = run_python(
         f"""
 import sys; sys.modules['numpy'] = None
+from math import inf, nan
 import vcm
 vcm.load({str(CATALOGUE)!r})
 record = vcm.get(vcm.find(13))
 vcm.clear(); assert vcm.get(vcm.add(record)) == record == vcm.to_record(vcm.to_lines(record))
+for name, values in {UNFIT!r}.items():
+    for value in values:
+        try: print(name, value, record.replace(**{{name: value}}))
+        except vcm.RefusedError as error: assert name in str(error), error
 print(record.eciPos, *record.covariance)
 try: vcm.table()
 except ImportError: print('no table')

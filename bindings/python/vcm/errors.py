@@ -38,7 +38,7 @@ class NotFoundError(VcmError, KeyError):
 
 
 class RefusedError(VcmError, ValueError):
-    """A text that is no message, or a value that the library refuses."""
+    """A text that is no message, or a value that the library refuses or would cut."""
 
 
 class DuplicateError(VcmError):
