@@ -49,3 +49,5 @@ def test_what_is_no_message(error: type[Exception], messages: list[Any]) -> None
             with pytest.raises(error):
                 print(take, message, take(message))
     assert vcm.get_arrays(key) == stored and vcm.keys() == [key]
+    with pytest.raises(vcm.RefusedError, match="vcm convert"):
+        vcm.add(' [{"satNum": 5}]')

@@ -58,14 +58,16 @@ def test_counts_are_those_of_this_load(tmp_path: Path) -> None:
         assert sum("Duplicated" in line for line in result.messages) == duplicate, path
 
 
-def test_files_that_cannot_be_opened(tmp_path: Path) -> None:
+def test_files_that_cannot_be_loaded(tmp_path: Path) -> None:
     (tmp_path / "directives").write_text("VCMFIL = no-such-file\n")
+    (tmp_path / "c.json").write_text(' \n[{"satNum": 5}]\n')
     for path, code, text in [
         (tmp_path / "missing", errno.ENOENT, "No such file"),
         (tmp_path, errno.EISDIR, "directory"),
         (f"{tmp_path}{'/.' * 300}/directives", errno.ENAMETOOLONG, "too long"),
         (tmp_path / "blank ", errno.EINVAL, "blanks"),
         (tmp_path / "directives", errno.ENOENT, 'Unable to open file "no-such-file"'),
+        (tmp_path / "c.json", errno.EINVAL, f"vcm convert {tmp_path}/c.json -o {tmp_path}/c.vcm"),
     ]:
         with pytest.raises(vcm.FileError, match=text) as caught:
             vcm.load(path)

@@ -27,7 +27,7 @@ def side_by_side(*actions: Callable[[], None]) -> None:
         future.result()
 
 
-def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture) -> None:
+def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture, tmp_path: Path) -> None:
     caplog.set_level(logging.INFO, "vcm")
     result = vcm.load(SAMPLES / "broken.vcm")
     told = [(record.levelno, record.getMessage()) for record in caplog.records]
@@ -35,6 +35,14 @@ def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture) -> None:
     assert told[0][0] == told[-1][0] == logging.INFO and told[-1][1].startswith("Total VCMs =")
     caplog.clear()
     assert 5 not in vcm.store and not caplog.records
+    caplog.set_level(logging.WARNING, "vcm")
+    for text, warnings in [("", 0), ("\n", 1), ("text", 1), ("[\n" + message(5), 0)]:
+        (tmp_path / "file").write_text(text)
+        vcm.load(tmp_path / "file")
+        assert [record.getMessage() for record in caplog.records] == [
+            f"{tmp_path}/file: no message in it"
+        ] * warnings, text
+        caplog.clear()
 
 
 def test_threads_do_not_see_each_others_lines(tmp_path: Path) -> None:

@@ -6,7 +6,8 @@ from typing import TypeAlias
 
 from . import _layout
 from ._encoding import encode
-from ._trace import call, errors, library
+from ._refusals import no_message
+from ._trace import call, library
 from .errors import RefusedError
 from .record import Arrays, Record, whole
 
@@ -32,7 +33,7 @@ class Buffers:
             read = library().VcmStringToArray
             code, lines = call(read, encode(message), buffers.numbers, buffers.texts)
             if code != 0:
-                raise RefusedError("the text is no message", errors(lines))
+                raise no_message(message, lines)
             return buffers
         numbers, texts = message.to_arrays() if isinstance(message, Record) else whole(message)
         try:

@@ -9,8 +9,8 @@ import ctypes
 from . import _layout
 from ._buffers import Buffers, Message
 from ._encoding import checked, encode
-from ._trace import call, errors, library
-from .errors import RefusedError
+from ._refusals import no_message
+from ._trace import call, library
 from .messages import require_found
 from .record import Arrays, Record
 
@@ -27,7 +27,7 @@ def to_one_line(message: Message) -> str:
     if isinstance(message, str):
         code, lines = call(library().VcmMultiLineTo1Line, encode(message), buffer)
         if code != 0:
-            raise RefusedError("the text is no message", errors(lines))
+            raise no_message(message, lines)
     else:
         arrays = Buffers.of(message)
         call(library().VcmArrayToVcm1Line, arrays.numbers, arrays.texts, buffer)
@@ -44,7 +44,7 @@ def to_lines(message: Message) -> str:
     if isinstance(message, str) and not message.startswith(_MULTI_LINE_BEGIN):
         _, lines = call(library().Vcm1LineToMultiLine, encode(message), buffer)
         if not buffer.raw.strip():  # the library's only sign of a refusal
-            raise RefusedError("the text is no message", errors(lines))
+            raise no_message(message, lines)
     else:
         arrays = Buffers.of(message)
         call(library().VcmArrayToVcmLines, arrays.numbers, arrays.texts, buffer)

@@ -25,7 +25,7 @@ class LibraryNotFoundError(VcmError, OSError):
 
 
 class FileError(VcmError, OSError):
-    """A file could not be opened; `errno` and `filename` say why and which."""
+    """A file could not be opened, or is JSON; `errno` and `filename` say why and which."""
 
     def __init__(self, code: int, text: str, filename: str = "") -> None:
         OSError.__init__(self, code, text, filename)

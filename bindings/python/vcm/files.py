@@ -3,11 +3,13 @@
 import errno
 import os
 import re
+from contextlib import suppress
 from dataclasses import dataclass
 
 from . import _layout
 from ._locks import growing
-from ._trace import Line, call, call_holding, errors, library
+from ._refusals import is_json, use_of_json
+from ._trace import Line, call, call_holding, errors, library, logger
 from .errors import FileError
 
 _TOTALS = re.compile(r"Total VCMs = *\d+, Loaded = *(\d+), Dup = *(\d+), Bad = *(\d+)")
@@ -29,11 +31,16 @@ class LoadResult:
     messages: tuple[str, ...] = ()
 
 
+_NOTHING = LoadResult(0, 0, 0)
+
+
 def load(path: str | os.PathLike[str]) -> LoadResult:
     """Loads every good message of a file, and of the files that its directive cards name.
 
     One thread loads at a time, others run on. Raises FileError when a file cannot be opened; what
-    was loaded before a directive card named such a file stays loaded.
+    was loaded before a directive card named such a file stays loaded. A regular file without any
+    message is a FileError when it is JSON, which `vcm convert` reads, and a warning on the logger
+    when it is anything else but empty.
     """
     name = _file_name(path)
     (code, growth), lines = call_holding(growing, _load, name)
@@ -42,7 +49,21 @@ def load(path: str | os.PathLike[str]) -> LoadResult:
     if not totals:
         return LoadResult(max(0, growth), -1, -1)
     loaded, duplicate, bad = (sum(int(found[i]) for found in totals) for i in (1, 2, 3))
-    return LoadResult(loaded, duplicate, bad, tuple(errors(lines)))
+    result = LoadResult(loaded, duplicate, bad, tuple(errors(lines)))
+    if result == _NOTHING and (beginning := _beginning(name)):
+        if is_json(beginning):
+            raise FileError(errno.EINVAL, use_of_json(path), os.fspath(path))
+        logger.warning("%s: no message in it", os.fspath(path))
+    return result
+
+
+def _beginning(name: bytes) -> str:
+    """What a regular file begins with; nothing for any other."""
+    with suppress(OSError):
+        if os.path.isfile(name):
+            with open(name, "rb") as file:
+                return file.read(4096).decode("latin-1")
+    return ""
 
 
 def _load(name: bytes) -> tuple[int, int]:

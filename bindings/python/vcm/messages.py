@@ -13,6 +13,7 @@ from . import _layout, _trace
 from ._buffers import Buffers, Message
 from ._encoding import checked, encode
 from ._locks import changing, growing
+from ._refusals import no_message
 from ._trace import Line, call, call_holding, errors, library
 from .dates import Moment, epoch_text
 from .errors import DuplicateError, NotFoundError, RefusedError
@@ -129,7 +130,7 @@ def add(message: Message) -> int:
             growing, library().VcmAddSatFrFields, buffers.texts, buffers.numbers
         )
     if added == _NO_KEY:
-        raise RefusedError("the message is refused", errors(lines))
+        raise no_message(message, lines)
     if added == _DUPLICATE:
         raise _duplicate(errors(lines))
     return added  # type: ignore[no-any-return]
