@@ -47,15 +47,17 @@ def test_records_hold_what_the_lines_say() -> None:
 def test_counts_are_those_of_this_load(tmp_path: Path) -> None:
     (tmp_path / "named").write_text(message(7) + message(8))
     (tmp_path / "directives").write_text(f"VCMFIL = {tmp_path}/named\n{message(7)}{message(9)}")
-    for path, loaded, duplicate, bad in [
-        (SAMPLES / "broken.vcm", 2, 1, 4),
-        (SAMPLES / "broken.vcm", 0, 3, 4),
-        (SAMPLES / "catalogue.one", 299, 1, 0),
-        (tmp_path / "directives", 3, 1, 0),
+    (tmp_path / "beyond").write_text(message(5, "2.903596202111", "9999.596202111"))
+    for path, loaded, duplicate, bad, faults in [
+        (SAMPLES / "broken.vcm", 2, 1, 4, 6),
+        (SAMPLES / "broken.vcm", 0, 3, 4, 6),
+        (SAMPLES / "catalogue.one", 299, 1, 0, 0),
+        (tmp_path / "directives", 3, 1, 0, 0),
+        (tmp_path / "beyond", 0, 0, 0, 1),
     ]:
         result = vcm.load(path)
         assert (result.loaded, result.duplicate, result.bad) == (loaded, duplicate, bad), path
-        assert sum("Duplicated" in line for line in result.messages) == duplicate, path
+        assert len(result.faults) == faults == len(result.messages) - duplicate, path
 
 
 def test_files_that_cannot_be_loaded(tmp_path: Path) -> None:

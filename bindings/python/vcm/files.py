@@ -14,21 +14,28 @@ from .errors import FileError
 
 _TOTALS = re.compile(r"Total VCMs = *\d+, Loaded = *(\d+), Dup = *(\d+), Bad = *(\d+)")
 
+_DUPLICATE = "AddRecToMem: Duplicated"
+
 
 @dataclass(frozen=True)
 class LoadResult:
     """What became of a file's messages.
 
     `messages` are the library's lines about those that are duplicates, cannot be read or break a
-    limit. As in the library's own totals, a multi-line message that breaks a limit is counted
-    nowhere. Where the host keeps its trace to itself, `messages` is empty and `duplicate` and `bad`
-    are -1.
+    limit; `faults` leaves out the duplicates. They tell whether all was well, and not `bad`: as in
+    the library's own totals, a multi-line message that breaks a limit is counted nowhere. Where the
+    host keeps its trace to itself, both are empty and `duplicate` and `bad` are -1.
     """
 
     loaded: int
     duplicate: int
     bad: int
     messages: tuple[str, ...] = ()
+
+    @property
+    def faults(self) -> tuple[str, ...]:
+        """The messages about anything but duplicates."""
+        return tuple(line for line in self.messages if not line.startswith(_DUPLICATE))
 
 
 _NOTHING = LoadResult(0, 0, 0)
