@@ -1,5 +1,7 @@
 """The table, held against the records; and records where there is no numpy."""
 
+from collections.abc import Callable
+
 import numpy as np
 import pytest
 import vcm
@@ -42,10 +44,28 @@ def test_some_rows_and_columns() -> None:
     table = vcm.table(keys, columns=["epochDays", "satKey"])
     assert table.dtype.names == ("epochDays", "satKey") and table["satKey"].tolist() == keys
     assert table["satKey"][0] in vcm.store and vcm.get(table["satKey"][0]) == vcm.get(keys[0])
-    with pytest.raises(vcm.RefusedError, match="nothing"):
-        vcm.table(columns=["nothing"])
+    assert vcm.table(keys, columns="bTerm").dtype.names == ("bTerm",)
+    wrong: dict[str, Callable[[], object]] = {
+        "'nothing', but those of": lambda: vcm.table(columns=["nothing"]),
+        "'EPOCHDAYS', but epochDays": lambda: vcm.table(columns="EPOCHDAYS"),
+        "f10 is chosen twice": lambda: vcm.table(columns=["f10", "bTerm", "f10"]),
+        "but eciPosZ, eciPosY, eciPosX": lambda: vcm.get_field(keys[0], "eciPos"),
+        "77 is no vcm.Order": lambda: vcm.table(order=77),  # type: ignore[arg-type]
+        "'key' is no vcm.Order": lambda: vcm.keys("key"),  # type: ignore[arg-type]
+    }
+    for text, action in wrong.items():
+        with pytest.raises(vcm.RefusedError, match=text):
+            print(text, action())
     vcm.clear()
     assert len(vcm.table()) == 0
+
+
+def test_a_message_that_is_removed_meanwhile_is_left_out(
+    monkeypatch: pytest.MonkeyPatch, caplog: pytest.LogCaptureFixture
+) -> None:
+    key = vcm.add(message(1))
+    monkeypatch.setattr(vcm.messages, "keys", lambda order: [key + 2, key, key + 4])
+    assert vcm.table()["satKey"].tolist() == [key] and not caplog.records
 
 
 def test_without_numpy_vectors_are_tuples() -> None:

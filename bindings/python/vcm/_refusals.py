@@ -1,7 +1,8 @@
-"""What is said of texts and files that hold no message. JSON is the program's to read."""
+"""What is said of texts and files that hold no message, and of names that are none."""
 
 import os
-from collections.abc import Sequence
+from collections.abc import Iterable, Sequence
+from difflib import get_close_matches
 from pathlib import Path
 
 from ._trace import Line, errors
@@ -25,3 +26,10 @@ def no_message(message: object, lines: Sequence[Line]) -> RefusedError:
     if isinstance(message, str) and is_json(message):
         error.args = (use_of_json(),)
     return error
+
+
+def unknown_name(kind: str, name: object, names: Iterable[str], listed: str) -> RefusedError:
+    """The error for a name that is none of these: with those like it, or where they are listed."""
+    by_lower = {known.lower(): known for known in names}
+    close = [by_lower[like] for like in get_close_matches(str(name).lower(), by_lower)]
+    return RefusedError(f"no {kind} is named {name!r}, but {', '.join(close) or listed}")

@@ -7,6 +7,7 @@ from datetime import datetime
 from . import _layout, _values
 from ._encoding import checked, encode
 from ._locks import changing
+from ._refusals import unknown_name
 from ._trace import call, call_holding, errors, library
 from .dates import Moment, epoch_text, to_datetime
 from .errors import NotFoundError, RefusedError
@@ -64,7 +65,7 @@ def set_field(satKey: int, name: str, value: Moment) -> None:
 
 def _index(name: str) -> int:
     if name not in _layout.FIELDS:
-        raise RefusedError(f"no field is named {name!r}; the fields are {', '.join(FIELD_NAMES)}")
+        raise unknown_name("field", name, FIELD_NAMES, "those of vcm.FIELD_NAMES")
     return _layout.FIELDS[name]
 
 

@@ -49,8 +49,12 @@ def count() -> int:
 
 
 def keys(order: Order = Order.SATELLITE) -> list[int]:
-    """The keys of all stored messages."""
-    found, _ = call_holding(growing, _keys, int(order))
+    """The keys of all stored messages. Raises RefusedError for an order that is none."""
+    try:
+        order = Order(order)
+    except ValueError:
+        raise RefusedError(f"{order!r} is no vcm.Order") from None
+    found, _ = call_holding(growing, _keys, order)
     # What another thread removes meanwhile leaves its place as it is.
     return [key for key in found.tolist() if key != _NO_KEY]
 
