@@ -8,6 +8,8 @@ from datetime import UTC, datetime, timedelta, timezone
 from pathlib import Path
 from typing import Any
 
+import numpy as np
+import pandas
 import pytest
 import vcm
 from conftest import CATALOGUE, SAMPLES, TEXTS, UNFIT, message
@@ -97,6 +99,15 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     assert key == vcm.find(5) == vcm.key(5, record.epoch) == vcm.key(5, record.epochDays)
     assert key == vcm.key(5, record.epoch.astimezone(timezone(timedelta(hours=-7))))
     assert key == vcm.key(5, record.epoch - timedelta(microseconds=400))
+    noon = datetime(2024, 2, 29, 12, tzinfo=UTC)
+    for date in (noon, np.datetime64("2024-02-29T12"), "2024-060T12:00Z", "2024-02-29 14+02:00"):
+        moved = record.replace(epoch=date, leapSecondTime=date)
+        assert moved.epoch == noon == moved.leapSecondTime, date
+        assert vcm.key(5, date) == vcm.key(5, noon) == vcm.key(5, "2024060120000.000"), date
+    for wrong in (None, 5.0, np.datetime64("NaT"), pandas.NaT, "2025-366", "2024-02-30", "2024-1",
+                  "2024-01-01+02:00", "2024060120000.000"):  # fmt: skip
+        with pytest.raises(vcm.RefusedError, match="no datetime"):
+            print(record.replace(epoch=wrong).epoch)
     with pytest.raises(ValueError):
         record.eciPos[0] = 1
     square = [[i + j for j in range(6)] for i in range(6)]
@@ -143,6 +154,7 @@ def test_what_is_not_there() -> None:
                 print(name, unknown, action(unknown))
     for satellite, epoch in [
         (5, "yesterday"),
+        (5, "2026-13-01"),
         (5, math.nan),
         (-5, record.epoch),
         (2**32, 1e4),

@@ -30,6 +30,13 @@ def matrix(rows: Sequence[Sequence[float]] | Array) -> Any:
     return tuple(tuple(map(float, row)) for row in rows)
 
 
+def plain_date(date: Any) -> Any:
+    """A date of numpy's as one of Python's; any other as it is."""
+    if HAS_NUMPY and isinstance(date, np.datetime64):
+        return date.astype("M8[us]").item()
+    return date
+
+
 def _read_only(values: Any, dimensions: int) -> Array:
     result = np.array(values, dtype=np.float64)
     if result.ndim != dimensions and len(result) > 0:

@@ -50,10 +50,10 @@ def get_field_text(satKey: int, name: str) -> str:
 def set_field(satKey: int, name: str, value: Moment) -> None:
     """Changes one field of a stored message; satellite number and epoch may not be changed.
 
-    A number may be given as text. The leap-second time is a date, days since 1950 UTC or a text
-    yyyydddhhmmss.sss, and is kept to the millisecond. Of several threads that set fields of one
-    message, no change is lost. Raises NotFoundError, and RefusedError for a name that is none of
-    FIELD_NAMES or a value that does not fit, such as a text longer than its field.
+    A number may be given as text. The leap-second time is a date as `to_days` takes it, days since
+    1950 UTC or a text yyyydddhhmmss.sss, and is kept to the millisecond. Of several threads that
+    set fields of one message, no change is lost. Raises NotFoundError, and RefusedError for a name
+    that is none of FIELD_NAMES or a value that does not fit, such as a text longer than its field.
     """
     text = _value_text(name, value)
     change = library().VcmSetField

@@ -81,7 +81,7 @@ def find(satNum: int) -> int:
 def key(satNum: int, epoch: Moment) -> int:
     """The key that a message of this satellite and epoch has; it need not be stored.
 
-    `epoch` is a date (without a zone: UTC), days since 1950 UTC, or the library's text
+    `epoch` is a date as `to_days` takes it, days since 1950 UTC, or the library's text
     "YYYYDDDHHMMSS.SSS" or "YYDDD.DDDDDDDD". Raises RefusedError when the number or the epoch is
     none.
     """

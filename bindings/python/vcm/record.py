@@ -116,7 +116,7 @@ class Record:
         return len(self.covariance)
 
     def replace(self, **changes: Any) -> "Record":
-        """The same record with some fields changed; `epoch` and `leapSecondTime` are dates."""
+        """The same record with some fields changed, dates as `to_days` takes them."""
         for name in _layout.DATES & changes.keys():
             changes[_DAYS[name]] = to_days(changes.pop(name))
         return dataclasses.replace(self, **changes)
