@@ -70,6 +70,7 @@ def test_files_that_cannot_be_loaded(tmp_path: Path) -> None:
         (tmp_path, errno.EISDIR, "directory"),
         (f"{tmp_path}{'/.' * 300}/directives", errno.ENAMETOOLONG, "too long"),
         (tmp_path / "blank ", errno.EINVAL, "blanks"),
+        (f"{tmp_path}/a\0b", errno.EINVAL, "NUL"),
         (tmp_path / "directives", errno.ENOENT, 'Unable to open file "no-such-file"'),
         (tmp_path / "c.json", errno.EINVAL, f"vcm convert {tmp_path}/c.json -o {tmp_path}/c.vcm"),
     ]:

@@ -94,8 +94,10 @@ def _file_name(path: str | os.PathLike[str]) -> bytes:
     name = os.fsencode(path)
     if len(name) > _layout.FILE_NAME_LENGTH:
         raise FileError(errno.ENAMETOOLONG, os.strerror(errno.ENAMETOOLONG), str(path))
-    if b"\0" in name or name != name.strip(b" \t\r\n"):
-        raise FileError(errno.EINVAL, "The library takes no name with blanks around it", str(path))
+    blanks = name != name.strip(b" \t\r\n")
+    if blanks or b"\0" in name:
+        what = "blanks around it" if blanks else "a NUL in it"
+        raise FileError(errno.EINVAL, f"The library takes no name with {what}", str(path))
     return name
 
 
