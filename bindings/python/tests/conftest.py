@@ -18,14 +18,11 @@ TEXTS = ["<> SP VECTOR" + block for block in CATALOGUE.read_text().split("<> SP 
 
 # What fields of a record do not hold, with numpy or without.
 UNFIT: dict[str, list[Any]] = {
-    "lunarSolar": ["MAYBE", True, None],
-    "intlDes": ["1989-021F", b"89021F"],
-    "dragModel": ["J" * 50],
-    "bTerm": ["x", None, [1], 10**400],
-    "f10": [1.5, 2**31, -(2**40), nan, inf, "x", None],
+    "lunarSolar": ["MAYBE", True, None], "intlDes": ["1989-021F", b"89021F"],
+    "bTerm": ["x", None, [1], 10**400], "f10": [1.5, 2**31, -(2**40), nan, inf, "x", None],
     "eciPos": [5, None, (1, 2), (1, 2, "x"), [[1, 2, 3]] * 3],
     "covariance": [5, None, [1], [[1, 2], [3]], [[1, 2]], [[0] * 10] * 10, [[[1]]], [["x"]]],
-}
+}  # fmt: skip
 
 
 @pytest.fixture(autouse=True)

