@@ -103,6 +103,7 @@ def test_adding_and_changing(tmp_path: Path) -> None:
     assert key == vcm.key(5, record.epoch.astimezone(timezone(timedelta(hours=-7))))
     assert key == vcm.key(5, record.epoch - timedelta(microseconds=400))
     noon = datetime(2024, 2, 29, 12, tzinfo=UTC)
+    assert vcm.key(5, np.int64(25000)) == vcm.key(5, 25000)
     for date in (noon, np.datetime64("2024-02-29T12"), "2024-060T12:00Z", "2024-02-29 14+02:00"):
         moved = record.replace(epoch=date, leapSecondTime=date)
         assert moved.epoch == noon == moved.leapSecondTime, date

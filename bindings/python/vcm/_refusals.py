@@ -3,7 +3,6 @@
 import os
 from collections.abc import Iterable, Sequence
 from difflib import get_close_matches
-from pathlib import Path
 
 from ._trace import Line, errors
 from .errors import RefusedError
@@ -16,8 +15,8 @@ def is_json(beginning: str) -> bool:
 
 def use_of_json(name: str | os.PathLike[str] = "messages.json") -> str:
     """How the messages of a file of JSON are read."""
-    made = Path(name).with_suffix(".vcm")
-    return f"JSON is read by the program: vcm convert {os.fspath(name)} -o {made}"
+    name = os.fspath(name)
+    return f"JSON is read by the program: vcm convert {name} -o {name.removesuffix('.json')}.vcm"
 
 
 def no_message(message: object, lines: Sequence[Line]) -> RefusedError:

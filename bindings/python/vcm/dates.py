@@ -5,6 +5,7 @@
 
 import re
 from datetime import UTC, datetime, timedelta
+from numbers import Real
 from typing import TYPE_CHECKING, Any, TypeAlias
 
 from . import _optional
@@ -28,7 +29,7 @@ def to_datetime(days: float) -> datetime:
     Raises RefusedError for a number outside the years 1 to 9999.
     """
     try:
-        return _BASE + timedelta(days=days)
+        return _BASE + timedelta(days=float(days))
     except (OverflowError, ValueError):
         raise RefusedError(f"{days} days since 1950 are no date") from None
 
@@ -51,7 +52,9 @@ def epoch_text(moment: Moment) -> str:
     """
     if isinstance(moment, str) and moment[4:5] != "-":
         return moment
-    date = to_datetime(moment) if isinstance(moment, (int, float)) else _utc(moment)
+    given: Any = moment
+    is_number = isinstance(given, Real)  # numpy's among them
+    date = to_datetime(given) if is_number else _utc(given)
     try:
         date += timedelta(microseconds=500)
     except OverflowError:
