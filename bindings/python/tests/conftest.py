@@ -4,7 +4,9 @@ import os
 import subprocess
 import sys
 from collections.abc import Iterator
+from math import inf, nan
 from pathlib import Path
+from typing import Any
 
 import pytest
 import vcm
@@ -13,6 +15,14 @@ ROOT = Path(__file__).resolve().parents[3]
 SAMPLES = ROOT / "samples"
 CATALOGUE = SAMPLES / "catalogue.vcm"
 TEXTS = ["<> SP VECTOR" + block for block in CATALOGUE.read_text().split("<> SP VECTOR")[1:]]
+
+# What fields of a record do not hold, with numpy or without.
+UNFIT: dict[str, list[Any]] = {
+    "lunarSolar": ["MAYBE", True, None], "intlDes": ["1989-021F", b"89021F"],
+    "bTerm": ["x", None, [1], 10**400], "f10": [1.5, 2**31, -(2**40), nan, inf, "x", None],
+    "eciPos": [5, None, (1, 2), (1, 2, "x"), [[1, 2, 3]] * 3],
+    "covariance": [5, None, [1], [[1, 2], [3]], [[1, 2]], [[0] * 10] * 10, [[[1]]], [["x"]]],
+}  # fmt: skip
 
 
 @pytest.fixture(autouse=True)

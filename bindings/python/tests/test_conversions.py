@@ -1,6 +1,8 @@
 """Texts, records and arrays into one another."""
 
 import re
+from functools import partial
+from typing import Any
 
 import pytest
 import vcm
@@ -27,8 +29,16 @@ def test_every_form_says_the_same() -> None:
         assert record.replace(leapSecondTime=unknown) == vcm.to_record(one_line)
 
 
-@pytest.mark.parametrize("text", ["", "hello", "<>", TEXTS[0][:900], "\0", "€"])
-def test_what_is_no_message(text: str) -> None:
-    for convert in (vcm.to_lines, vcm.to_one_line, vcm.to_arrays, vcm.to_record):
-        with pytest.raises(vcm.RefusedError):
-            print(convert.__name__, convert(text))
+def test_what_is_no_message() -> None:
+    key = vcm.add(TEXTS[0])
+    stored, blanks, json = vcm.get_arrays(key), " " * 512, ' [{"satNum": 5}]'
+    refused: list[Any] = ["", "hello", "<>", TEXTS[0][:900], "\0", "€", json]
+    refused += [([13.0], ""), ([0] * 513, blanks), (["x"] * 512, blanks)]
+    others: list[Any] = [None, 5, b"x", (5, blanks), ([0] * 512, b" " * 512), [[0] * 512, blanks]]
+    convert = [vcm.to_lines, vcm.to_one_line, vcm.to_arrays, vcm.to_record]
+    for wrong in refused + others:
+        for take in (*convert, vcm.add, partial(vcm.update, key)):
+            with pytest.raises(vcm.RefusedError if wrong in refused else TypeError) as caught:
+                print(take, wrong, take(wrong))
+            assert ("vcm convert" in str(caught.value)) == (wrong == json), (take, wrong)
+    assert vcm.get_arrays(key) == stored and vcm.keys() == [key]

@@ -27,7 +27,7 @@ def side_by_side(*actions: Callable[[], None]) -> None:
         future.result()
 
 
-def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture) -> None:
+def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture, tmp_path: Path) -> None:
     caplog.set_level(logging.INFO, "vcm")
     result = vcm.load(SAMPLES / "broken.vcm")
     told = [(record.levelno, record.getMessage()) for record in caplog.records]
@@ -35,6 +35,12 @@ def test_lines_go_to_the_logger(caplog: pytest.LogCaptureFixture) -> None:
     assert told[0][0] == told[-1][0] == logging.INFO and told[-1][1].startswith("Total VCMs =")
     caplog.clear()
     assert 5 not in vcm.store and not caplog.records
+    caplog.set_level(logging.WARNING, "vcm")
+    for name, text in {"empty": "", "good": "[\n" + message(5), "LF": "\n", "text": "text"}.items():
+        (tmp_path / name).write_text(text)
+        vcm.load(tmp_path / name)
+    told_of = [f"{tmp_path}/{name}: no message in it" for name in ("LF", "text")]
+    assert [record.getMessage() for record in caplog.records] == told_of
 
 
 def test_threads_do_not_see_each_others_lines(tmp_path: Path) -> None:
@@ -83,6 +89,7 @@ def test_fields_set_by_several_threads_are_all_kept() -> None:
 
 def test_a_handler_that_interrupts_a_listing_is_refused() -> None:
     """By then the array of the keys has its length."""
+
     def interrupt() -> None:
         for action in (vcm.keys, partial(vcm.add, message(1)), partial(vcm.load, CATALOGUE)):
             with pytest.raises(vcm.VcmError, match="interrupts"):

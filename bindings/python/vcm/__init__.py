@@ -42,6 +42,8 @@ from .messages import (
 from .record import Arrays, Record
 from .tables import table
 
+__version__ = "1.0.0"
+
 __all__ = [
     "Arrays",
     "DuplicateError",

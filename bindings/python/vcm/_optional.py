@@ -20,17 +20,26 @@ else:
 
 def vector(values: Sequence[float] | Array) -> Any:
     """Numbers as an array that may not be changed."""
-    return _read_only(values) if HAS_NUMPY else tuple(map(float, values))
+    return _read_only(values, 1) if HAS_NUMPY else tuple(map(float, values))
 
 
 def matrix(rows: Sequence[Sequence[float]] | Array) -> Any:
     """Rows of numbers as a matrix that may not be changed."""
     if HAS_NUMPY:
-        return _read_only(rows)
+        return _read_only(rows, 2)
     return tuple(tuple(map(float, row)) for row in rows)
 
 
-def _read_only(values: Any) -> Array:
+def plain_date(date: Any) -> Any:
+    """A date of numpy's as one of Python's; any other as it is."""
+    if HAS_NUMPY and isinstance(date, np.datetime64):
+        return date.astype("M8[us]").item()
+    return date
+
+
+def _read_only(values: Any, dimensions: int) -> Array:
     result = np.array(values, dtype=np.float64)
+    if result.ndim != dimensions and len(result) > 0:
+        raise ValueError(f"not of {dimensions} dimensions")
     result.setflags(write=False)
     return result

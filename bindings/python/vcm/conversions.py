@@ -5,16 +5,14 @@ blanks before it.
 """
 
 import ctypes
-from typing import TypeAlias
 
 from . import _layout
+from ._buffers import Buffers, Message
 from ._encoding import checked, encode
-from ._trace import call, errors, library
-from .errors import RefusedError
+from ._refusals import no_message
+from ._trace import call, library
 from .messages import require_found
-from .record import Arrays, Buffers, Record
-
-Message: TypeAlias = str | Record | Arrays
+from .record import Arrays, Record
 
 _MULTI_LINE_BEGIN = "<>"
 
@@ -29,9 +27,9 @@ def to_one_line(message: Message) -> str:
     if isinstance(message, str):
         code, lines = call(library().VcmMultiLineTo1Line, encode(message), buffer)
         if code != 0:
-            raise RefusedError("the text is no message", errors(lines))
+            raise no_message(message, lines)
     else:
-        arrays = _buffers_of(message)
+        arrays = Buffers.of(message)
         call(library().VcmArrayToVcm1Line, arrays.numbers, arrays.texts, buffer)
     return buffer.raw.decode("latin-1").rstrip(" ")
 
@@ -46,25 +44,21 @@ def to_lines(message: Message) -> str:
     if isinstance(message, str) and not message.startswith(_MULTI_LINE_BEGIN):
         _, lines = call(library().Vcm1LineToMultiLine, encode(message), buffer)
         if not buffer.raw.strip():  # the library's only sign of a refusal
-            raise RefusedError("the text is no message", errors(lines))
+            raise no_message(message, lines)
     else:
-        arrays = _buffers_of(to_arrays(message) if isinstance(message, str) else message)
+        arrays = Buffers.of(message)
         call(library().VcmArrayToVcmLines, arrays.numbers, arrays.texts, buffer)
     return _lines_of(buffer.raw)
 
 
-def to_arrays(text: str) -> Arrays:
-    """A text in any form as the array form. Raises RefusedError for one that cannot be read."""
-    buffers = Buffers()
-    code, lines = call(library().VcmStringToArray, encode(text), buffers.numbers, buffers.texts)
-    if code != 0:
-        raise RefusedError("the text is no message", errors(lines))
-    return buffers.arrays()
+def to_arrays(message: Message) -> Arrays:
+    """A message in any form as the array form. Raises RefusedError for one that cannot be read."""
+    return Buffers.of(message).arrays()
 
 
-def to_record(text: str) -> Record:
-    """A text in any form as a record. Raises RefusedError for one that cannot be read."""
-    return Record.from_arrays(to_arrays(text))
+def to_record(message: Message) -> Record:
+    """A message in any form as a record. Raises RefusedError for one that cannot be read."""
+    return Record.from_arrays(to_arrays(message))
 
 
 def get_lines(satKey: int) -> str:
@@ -73,10 +67,6 @@ def get_lines(satKey: int) -> str:
     code, lines = call(library().VcmGetLines, checked(satKey, 64), buffer)
     require_found(satKey, code, lines)
     return _lines_of(buffer.raw)
-
-
-def _buffers_of(message: Record | Arrays) -> Buffers:
-    return Buffers(message.to_arrays() if isinstance(message, Record) else message)
 
 
 def _lines_of(raw: bytes) -> str:

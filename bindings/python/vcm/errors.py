@@ -25,7 +25,7 @@ class LibraryNotFoundError(VcmError, OSError):
 
 
 class FileError(VcmError, OSError):
-    """A file could not be opened; `errno` and `filename` say why and which."""
+    """A file could not be opened, or is JSON; `errno` and `filename` say why and which."""
 
     def __init__(self, code: int, text: str, filename: str = "") -> None:
         OSError.__init__(self, code, text, filename)
@@ -38,7 +38,7 @@ class NotFoundError(VcmError, KeyError):
 
 
 class RefusedError(VcmError, ValueError):
-    """A text that is no message, or a value that the library refuses."""
+    """A text that is no message, or a value that the library refuses or would cut."""
 
 
 class DuplicateError(VcmError):

@@ -2,13 +2,12 @@
 
 import ctypes
 import math
-import operator
 from datetime import datetime
-from typing import Any
 
-from . import _layout
+from . import _layout, _values
 from ._encoding import checked, encode
 from ._locks import changing
+from ._refusals import unknown_name
 from ._trace import call, call_holding, errors, library
 from .dates import Moment, epoch_text, to_datetime
 from .errors import NotFoundError, RefusedError
@@ -16,8 +15,6 @@ from .messages import contains, get_arrays, require_found
 
 FIELD_NAMES: tuple[str, ...] = tuple(_layout.FIELDS)
 """The names of the single fields."""
-
-_INT32 = range(-(2**31), 2**31)
 
 
 def get_field(satKey: int, name: str) -> int | float | str | datetime:
@@ -53,10 +50,10 @@ def get_field_text(satKey: int, name: str) -> str:
 def set_field(satKey: int, name: str, value: Moment) -> None:
     """Changes one field of a stored message; satellite number and epoch may not be changed.
 
-    A number may be given as text. A text longer than its field is cut. The leap-second time is a
-    date, days since 1950 UTC or a text yyyydddhhmmss.sss, and is kept to the millisecond. Of
-    several threads that set fields of one message, no change is lost. Raises NotFoundError, and
-    RefusedError for a name that is none of FIELD_NAMES or a value that does not fit.
+    A number may be given as text. The leap-second time is a date as `to_days` takes it, days since
+    1950 UTC or a text yyyydddhhmmss.sss, and is kept to the millisecond. Of several threads that
+    set fields of one message, no change is lost. Raises NotFoundError, and RefusedError for a name
+    that is none of FIELD_NAMES or a value that does not fit, such as a text longer than its field.
     """
     text = _value_text(name, value)
     change = library().VcmSetField
@@ -68,23 +65,20 @@ def set_field(satKey: int, name: str, value: Moment) -> None:
 
 def _index(name: str) -> int:
     if name not in _layout.FIELDS:
-        raise RefusedError(f"no field is named {name!r}; the fields are {', '.join(FIELD_NAMES)}")
+        raise unknown_name("field", name, FIELD_NAMES, "those of vcm.FIELD_NAMES")
     return _layout.FIELDS[name]
 
 
 def _value_text(name: str, value: Moment) -> str:
     """A value as the library reads it. What it would take for 0, it does not get to see."""
-    if name in _layout.TEXTS or name in ("satNum", "epoch"):  # the latter are for it to refuse
+    if name in ("satNum", "epoch"):  # for it to refuse
         return str(value)
+    if name in _layout.TEXTS:
+        return _values.text(name, value)
     if name in _layout.DATES:
         return epoch_text(value)
-    given: Any = value
-    try:
-        if name not in _layout.INTEGERS:
-            if math.isfinite(number := float(given)):
-                return repr(number)
-        elif (number := int(given) if isinstance(given, str) else operator.index(given)) in _INT32:
-            return repr(number)
-    except (TypeError, ValueError):
-        pass
-    raise RefusedError(f"{value!r} is no value of {name}")
+    if name in _layout.INTEGERS:
+        return repr(_values.integer(name, value))
+    if not math.isfinite(number := _values.real(name, value)):
+        raise RefusedError(f"{value!r} is no value of {name}")
+    return repr(number)

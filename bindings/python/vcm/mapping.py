@@ -4,6 +4,7 @@ from collections.abc import Iterator, Mapping
 from typing import SupportsIndex
 
 from . import messages
+from ._buffers import Message
 from .record import Record
 
 
@@ -27,8 +28,8 @@ class Store(Mapping[int, Record]):
     def __getitem__(self, satKey: int) -> Record:
         return messages.get(satKey)
 
-    def __setitem__(self, satKey: int, record: Record) -> None:
-        messages.update(satKey, record)
+    def __setitem__(self, satKey: int, message: Message) -> None:
+        messages.update(satKey, message)
 
     def __delitem__(self, satKey: int) -> None:
         messages.remove(satKey)

@@ -10,12 +10,14 @@ from array import array
 from enum import IntEnum
 
 from . import _layout, _trace
+from ._buffers import Buffers, Message
 from ._encoding import checked, encode
 from ._locks import changing, growing
+from ._refusals import no_message
 from ._trace import Line, call, call_holding, errors, library
 from .dates import Moment, epoch_text
 from .errors import DuplicateError, NotFoundError, RefusedError
-from .record import Arrays, Buffers, Record
+from .record import Arrays, Record
 
 _NO_KEY = -1
 _DUPLICATE = 0
@@ -47,8 +49,12 @@ def count() -> int:
 
 
 def keys(order: Order = Order.SATELLITE) -> list[int]:
-    """The keys of all stored messages."""
-    found, _ = call_holding(growing, _keys, int(order))
+    """The keys of all stored messages. Raises RefusedError for an order that is none."""
+    try:
+        order = Order(order)
+    except ValueError:
+        raise RefusedError(f"{order!r} is no vcm.Order") from None
+    found, _ = call_holding(growing, _keys, order)
     # What another thread removes meanwhile leaves its place as it is.
     return [key for key in found.tolist() if key != _NO_KEY]
 
@@ -75,7 +81,7 @@ def find(satNum: int) -> int:
 def key(satNum: int, epoch: Moment) -> int:
     """The key that a message of this satellite and epoch has; it need not be stored.
 
-    `epoch` is a date (without a zone: UTC), days since 1950 UTC, or the library's text
+    `epoch` is a date as `to_days` takes it, days since 1950 UTC, or the library's text
     "YYYYDDDHHMMSS.SSS" or "YYDDD.DDDDDDDD". Raises RefusedError when the number or the epoch is
     none.
     """
@@ -111,7 +117,7 @@ def contains(satKey: int) -> bool:
     return bool(_trace.quietly(library().VcmGetField, key, 0, buffer) == 0)
 
 
-def add(message: str | Record | Arrays) -> int:
+def add(message: Message) -> int:
     """Adds a message, given as text (one-line or lines), as a record or in the array form.
 
     Returns its key. Raises DuplicateError, with the key of its twin, when the same message
@@ -123,12 +129,12 @@ def add(message: str | Record | Arrays) -> int:
         text = encode(message)
         added, lines = call_holding(growing, library().VcmAddSatFrLines, text)
     else:
-        buffers = Buffers(message.to_arrays() if isinstance(message, Record) else message)
+        buffers = Buffers.of(message)
         added, lines = call_holding(
             growing, library().VcmAddSatFrFields, buffers.texts, buffers.numbers
         )
     if added == _NO_KEY:
-        raise RefusedError("the message is refused", errors(lines))
+        raise no_message(message, lines)
     if added == _DUPLICATE:
         raise _duplicate(errors(lines))
     return added  # type: ignore[no-any-return]
@@ -141,14 +147,14 @@ def _duplicate(messages: list[str]) -> DuplicateError:
     return error
 
 
-def update(satKey: int, record: Record | Arrays) -> None:
-    """Replaces a stored message, all but its satellite number and epoch.
+def update(satKey: int, message: Message) -> None:
+    """Replaces a stored message by one in any form, all but its satellite number and epoch.
 
-    What a record does not carry, the common name and maneuver cards, is lost. The new values are
-    not held against limits, but a message that breaks one is not changed any more: RefusedError. Raises NotFoundError.
+    The stored message's common name and maneuver cards are lost. The new values are not held
+    against limits, but a message that breaks one is not changed any more. Raises RefusedError for
+    that and for a text that cannot be read, NotFoundError.
     """
-    arrays = record.to_arrays() if isinstance(record, Record) else record
-    buffers = Buffers(arrays)
+    buffers = Buffers.of(message)
     replace = library().VcmUpdateSatFrFields
     code, lines = call_holding(
         changing, replace, checked(satKey, 64), buffers.texts, buffers.numbers

@@ -1,16 +1,13 @@
 """One message, as a record of typed fields, and its array form."""
 
-import ctypes
 import dataclasses
-from array import array
-from collections.abc import Sequence
+from collections.abc import Callable, Sequence, Sized
 from dataclasses import dataclass
 from datetime import datetime
 from typing import Any, NamedTuple
 
-from . import _layout
-from ._encoding import encode
-from ._optional import Array, matrix, vector
+from . import _layout, _values
+from ._optional import Array
 from .dates import to_datetime, to_days
 from .errors import RefusedError
 
@@ -25,6 +22,16 @@ class Arrays(NamedTuple):
     texts: str
 
 
+def whole(message: object) -> Arrays:
+    """A message that has to be in the array form; RefusedError where that has another length."""
+    match message:
+        case (numbers, str(texts)) if isinstance(message, tuple) and isinstance(numbers, Sized):
+            if len(numbers) != _layout.NUM_ARRAY_LENGTH or len(texts) != _layout.CHAR_ARRAY_LENGTH:
+                raise RefusedError("the array form has 512 numbers and 512 characters")
+            return Arrays(numbers, texts)  # type: ignore[arg-type]
+    raise TypeError(f"a message is a text, a Record or Arrays, not {type(message).__name__}")
+
+
 @dataclass(frozen=True, eq=False, kw_only=True)
 class Record:
     """One message. It is not bound to the store: changing what is stored takes `vcm.update`.
@@ -34,7 +41,8 @@ class Record:
     covariance is the symmetric n x n matrix of the equinoctial elements af, ag, L, n, chi, psi, B,
     Bdot, AGOM; of one that is given, the lower triangle counts. `epochDays` and `leapSecondDays`
     are the library's own days since 1950 UTC; `epoch` and `leapSecondTime` the same as dates. A
-    common name and maneuver cards are left out.
+    common name and maneuver cards are left out. Raises RefusedError for a value that its field does
+    not take: a text that is too long, a fraction in an integer, anything that is no number.
 
     Units: positions km, velocities km/s, and so their sigmas (U, V, W); bTerm and agom m2/kg, bDot
     m2/kg-s, edr W/kg, thrustAccel m/s2, cmOffset m; taiMinusUtc, ut1MinusUtc and initStepSize s,
@@ -89,16 +97,8 @@ class Record:
     covariance: Array = _NONE
 
     def __post_init__(self) -> None:
-        for name in _layout.COMPONENTS:
-            object.__setattr__(self, name, vector(getattr(self, name)))
-            if len(getattr(self, name)) != 3:
-                raise RefusedError(f"{name} has three components")
-        object.__setattr__(self, "covariance", matrix(self.covariance))
-        n = len(self.covariance)
-        if n > len(_layout.ELEMENTS) or any(len(row) != n for row in self.covariance):
-            raise RefusedError(
-                f"covariance is a square matrix of at most {len(_layout.ELEMENTS)} rows"
-            )
+        for name, checked in _CHECKS:
+            object.__setattr__(self, name, checked(name, getattr(self, name)))
 
     @property
     def epoch(self) -> datetime:
@@ -116,7 +116,7 @@ class Record:
         return len(self.covariance)
 
     def replace(self, **changes: Any) -> "Record":
-        """The same record with some fields changed; `epoch` and `leapSecondTime` are dates."""
+        """The same record with some fields changed, dates as `to_days` takes them."""
         for name in _layout.DATES & changes.keys():
             changes[_DAYS[name]] = to_days(changes.pop(name))
         return dataclasses.replace(self, **changes)
@@ -127,7 +127,7 @@ class Record:
         return self.to_arrays() == other.to_arrays()
 
     def to_arrays(self) -> Arrays:
-        """The record in the array form. A text that is too long is cut, as the library would."""
+        """The record in the array form."""
         numbers = [0.0] * _layout.NUM_ARRAY_LENGTH
         for name, (first, length) in _layout.NUMBERS.items():
             if name == "covariance":
@@ -147,7 +147,7 @@ class Record:
     @classmethod
     def from_arrays(cls, arrays: "Arrays | tuple[Sequence[float], str]") -> "Record":
         """The record of a message in the array form."""
-        numbers, texts = arrays
+        numbers, texts = whole(arrays)
         fields: dict[str, Any] = {}
         for name, (first, length) in _layout.NUMBERS.items():
             if name == "covariance":
@@ -155,8 +155,7 @@ class Record:
             elif length > 1:
                 fields[name] = numbers[first : first + length]
             elif name != "covMtxSize":
-                value = numbers[first]
-                fields[_DAYS.get(name, name)] = int(value) if name in _layout.INTEGERS else value
+                fields[_DAYS.get(name, name)] = numbers[first]
         for name, (first, length) in _layout.TEXTS.items():
             fields[name] = texts[first : first + length].rstrip()
         return cls(**fields)
@@ -164,10 +163,20 @@ class Record:
 
 _DAYS = {"epoch": "epochDays", "leapSecondTime": "leapSecondDays"}
 
+_BY_DEFAULT: dict[type, Callable[[str, Any], Any]]
+_BY_DEFAULT = {int: _values.integer, float: _values.real, str: _values.text}
+_CHECKS = [
+    (field.name, _BY_DEFAULT.get(type(field.default), _values.vector))
+    for field in dataclasses.fields(Record)
+    if field.name != "covariance"
+]
+_CHECKS.append(("covariance", _values.matrix))
+
 
 def _square(numbers: Sequence[float], first: int) -> list[list[float]]:
     """Both triangles of the covariance, from the rows of the lower one."""
-    n = max(0, min(int(numbers[_layout.NUMBERS["covMtxSize"][0]]), len(_layout.ELEMENTS)))
+    size = _values.integer("covMtxSize", numbers[_layout.NUMBERS["covMtxSize"][0]])
+    n = max(0, min(size, len(_layout.ELEMENTS)))
     triangle = numbers[first : first + n * (n + 1) // 2]
     return [[triangle[place] for place in row[:n]] for row in _PLACES[:n]]
 
@@ -177,25 +186,3 @@ _PLACES = [
     [max(i, j) * (max(i, j) + 1) // 2 + min(i, j) for j in range(len(_layout.ELEMENTS))]
     for i in range(len(_layout.ELEMENTS))
 ]
-
-
-class Buffers:
-    """The two arrays that go to a function of the library and come back."""
-
-    def __init__(self, arrays: "Arrays | tuple[Sequence[float], str] | None" = None) -> None:
-        self.numbers = (ctypes.c_double * _layout.NUM_ARRAY_LENGTH)()
-        self.texts = (ctypes.c_char * _layout.CHAR_ARRAY_LENGTH)()
-        if arrays is not None:
-            numbers, texts = arrays
-            if len(numbers) > len(self.numbers) or len(texts) > len(self.texts):
-                raise RefusedError("the array form has 512 numbers and 512 characters")
-            self._view()[: len(numbers)] = memoryview(array("d", numbers))
-            self.texts.raw = encode(texts).ljust(len(self.texts))
-
-    def arrays(self) -> Arrays:
-        """What they hold."""
-        return Arrays(self._view().tolist(), self.texts.raw.decode("latin-1"))
-
-    def _view(self) -> memoryview:
-        """The numbers without ctypes, which goes through them one by one."""
-        return memoryview(self.numbers).cast("B").cast("d")

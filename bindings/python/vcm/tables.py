@@ -6,7 +6,8 @@ from typing import TYPE_CHECKING, Any, NamedTuple
 
 from . import _layout, messages
 from ._encoding import checked
-from ._trace import call, errors, library
+from ._refusals import unknown_name
+from ._trace import call, errors, library, quietly
 from .errors import NotFoundError, RefusedError
 from .messages import Order
 
@@ -50,24 +51,28 @@ _COLUMNS = dict(_layout_columns())
 def table(
     keys: Iterable[int] | None = None,
     order: Order = Order.SATELLITE,
-    columns: Iterable[str] | None = None,
+    columns: Iterable[str] | str | None = None,
 ) -> "npt.NDArray[np.void]":
     """Stored messages as a numpy structured array of scalar columns: all, or those of `keys`.
 
     `pandas.DataFrame(vcm.table())` takes it as it is. The columns are `satKey` and the record's
     fields: vectors as eciPosX, posSigmasU and so on, `epoch` and `leapSecondTime` as datetime64[us]
     beside the exact `epochDays` and `leapSecondDays`, the covariance's lower triangle as cov_af_af,
-    cov_ag_af, ... to cov_AGOM_AGOM. `columns` chooses some, in the order given.
+    cov_ag_af, ... to cov_AGOM_AGOM. `columns` chooses some, in the order given, or one by its name.
 
     Messages that another thread removes meanwhile are left out of the whole store; of `keys` that
     are not stored, the first is told by NotFoundError. Raises RefusedError for a column that is
-    none, ImportError without numpy.
+    none or comes twice, ImportError without numpy.
     """
     import numpy as np
 
-    chosen = ["satKey", *_COLUMNS] if columns is None else list(columns)
-    if unknown := [name for name in chosen if name != "satKey" and name not in _COLUMNS]:
-        raise RefusedError(f"no column is named {', '.join(unknown)}")
+    names = ["satKey", *_COLUMNS]
+    chosen = names if columns is None else [columns] if isinstance(columns, str) else list(columns)
+    for place, name in enumerate(chosen):
+        if name not in names:
+            raise unknown_name("column", name, names, "those of vcm.table().dtype")
+        if name in chosen[:place]:
+            raise RefusedError(f"the column {name} is chosen twice")
     dtypes = [(name, "i8" if name == "satKey" else _COLUMNS[name].dtype) for name in chosen]
     every = messages.keys(order) if keys is None else [checked(key, 64) for key in keys]
     result = np.zeros(len(every), dtype=dtypes)
@@ -76,10 +81,13 @@ def table(
     filled = 0
     for begin in range(0, len(every), _CHUNK):
         wanted = every[begin : begin + _CHUNK]
-        codes, lines = call(_retrieve, wanted, texts, numbers)
+        if keys is None:
+            codes = quietly(_retrieve, wanted, texts, numbers)
+        else:
+            codes, lines = call(_retrieve, wanted, texts, numbers)
+            if any(codes):
+                raise NotFoundError("a message is not stored", errors(lines)[:1])
         found = np.flatnonzero(np.array(codes) == 0)
-        if keys is not None and len(found) < len(wanted):
-            raise NotFoundError("a message is not stored", errors(lines)[:1])
         rows = result[filled : filled + len(found)]
         for name in chosen:
             if name == "satKey":

@@ -89,8 +89,7 @@ def _load(path: str) -> int:
     if messages.count() == 0:
         raise _Failure(_BAD_INPUT, f"{path}: no messages to draw")
     # That a message stands there twice does not make it bad.
-    bad = (line for line in result.messages if not line.startswith("AddRecToMem: Duplicated"))
-    return _BAD_INPUT if any(bad) else _FINE
+    return _BAD_INPUT if result.faults else _FINE
 
 
 def _table(arguments: argparse.Namespace, kind: str) -> Callable[[Any], Any]:
