@@ -15,6 +15,7 @@ def other_end(r: float, v: float) -> float:
     return 2.0 / (2.0 / r - v * v / EARTH_GM) - r
 
 
+STATE = [name + axis for name in ("eciPos", "eciVel") for axis in "XYZ"]
 ORBITS = [  # position, velocity; inclination, distances at perigee and apogee
     ((42164, 0, 0), (0, (EARTH_GM / 42164) ** 0.5, 0), (0, 42164, 42164)),
     ((0, 0, 7000), (8.5, 0, 0), (90, 7000, other_end(7000, 8.5))),
@@ -58,6 +59,34 @@ def test_catalogue_shows_every_message_or_tells_of_it(copies: int) -> None:
     assert figure._supxlabel.get_text() == (
         "left out: open orbits 1, degenerate states 1, perigees below the surface 1, epochs that are no date 1"
     )  # fmt: skip
+
+
+AXES = [  # altitudes of perigee and apogee; the ticks in view
+    ([(1127.9, 1128.1)], ["1,124", "1,126", "1,128", "1,130", "1,132"]),
+    ([(250, 380), (850, 900)], ["300", "400", "500", "600", "700", "800", "900"]),
+    ([(150, 36000)], ["300", "1,000", "3,000", "10,000", "30,000"]),
+    ([(22, 7e8)], ["100", "10,000", "1,000,000", "100,000,000"]),
+    ([(0.05, 29)], ["0.1", "0.3", "1", "3", "10", "30"]),
+    ([(250, np.inf)], []),
+]
+
+
+@pytest.mark.parametrize(("orbits", "ticks"), AXES)
+def test_altitudes_have_ticks_people_read(
+    orbits: list[tuple[float, float]], ticks: list[str]
+) -> None:
+    table = np.zeros(len(orbits), [(name, float) for name in STATE] + [("epoch", "M8[ms]")])
+    near, far = np.transpose(orbits) + EARTH_RADIUS
+    table["eciPosX"], table["eciVelY"] = near, np.sqrt(2 * EARTH_GM / (near + near**2 / far))
+    figure = vcm.plot.catalogue(table)
+    figure.draw_without_rendering()
+    axes = figure.axes[0]
+    low, high = axes.get_xlim()
+    shown = [each for each in axes.get_xticklabels() if low <= each.get_position()[0] <= high]
+    assert [each.get_text() for each in shown] == ticks
+    said = ["no closed orbits above the surface"] * (not ticks)
+    assert [each.get_text() for each in axes.texts] == said
+    assert (axes.get_legend() is None) == (not ticks)
 
 
 def test_covariance_is_drawn_as_correlations() -> None:

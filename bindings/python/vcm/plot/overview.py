@@ -13,6 +13,7 @@ from .style import BLUE, GREEN, GREY, VERMILION, annotate, prepare, styled
 
 _MOST_MARKS = 500  # with more satellites, points are a cloud
 _MOST_BARS = 60
+_SUBS = ((100, (1.0, 2.0, 5.0)), (1000, (1.0, 3.0)))  # of a log axis, by how far it goes
 _SPANS = {
     "hour": "h",
     "6 hours": "6h",
@@ -68,13 +69,32 @@ def _draw_orbits(axes: Any, found: Elements) -> None:
     )
     draw = _draw_marks if len(inclination) <= _MOST_MARKS else _draw_cloud
     draw(axes, inclination, perigee, apogee)
+    altitudes = np.concatenate([perigee, apogee])
+    altitudes = altitudes[altitudes > 0]
+    if len(altitudes):
+        _name_ends(axes, draw is _draw_cloud)
+        _scale_altitudes(axes, altitudes)
+    else:
+        _leave_empty(axes, "no closed orbits above the surface")
+    top = 30 * np.ceil(max(90.0, inclination.max(initial=0.0)) / 30)
+    axes.set(
+        xlabel="altitude (km)",
+        ylabel="inclination (°)",
+        title="Orbits",
+        ylim=(-0.02 * top, 1.02 * top),
+    )
+    axes.yaxis.set_major_locator(ticker.MultipleLocator(30))
+    axes.grid(True)
+
+
+def _name_ends(axes: Any, is_cloud: bool) -> None:
     handles = [
         Line2D([], [], color=BLUE, marker="o", ls="", ms=3.5, label="perigee"),
         Line2D(
             [], [], color=VERMILION, marker="s", ls="", ms=5, mfc="none", mew=0.9, label="apogee"
         ),
     ]
-    if draw is _draw_cloud:
+    if is_cloud:
         handles[1].set(marker="o", markersize=3.5, markerfacecolor=VERMILION)
     axes.legend(
         handles=handles,
@@ -85,17 +105,11 @@ def _draw_orbits(axes: Any, found: Elements) -> None:
         handletextpad=0.1,
         columnspacing=1.0,
     )
-    altitudes = np.concatenate([perigee, apogee])
-    _scale_altitudes(axes, altitudes[altitudes > 0])
-    top = 30 * np.ceil(max(90.0, inclination.max(initial=0.0)) / 30)
-    axes.set(
-        xlabel="altitude (km)",
-        ylabel="inclination (°)",
-        title="Orbits",
-        ylim=(-0.02 * top, 1.02 * top),
-    )
-    axes.yaxis.set_major_locator(ticker.MultipleLocator(30))
-    axes.grid(True)
+
+
+def _leave_empty(axes: Any, why: str) -> None:
+    axes.xaxis.set_major_locator(ticker.NullLocator())
+    axes.text(0.5, 0.5, why, transform=axes.transAxes, ha="center", color=GREY)
 
 
 def _draw_marks(axes: Any, inclination: Numbers, perigee: Numbers, apogee: Numbers) -> None:
@@ -139,14 +153,19 @@ def _draw_cloud(axes: Any, inclination: Numbers, perigee: Numbers, apogee: Numbe
 
 def _scale_altitudes(axes: Any, altitudes: Numbers) -> None:
     """A log axis where low and high orbits are together; ticks as numbers people read."""
-    span = altitudes.max() / altitudes.min() if len(altitudes) else 1.0
-    if span > 8:
+    low, high = altitudes.min(), altitudes.max()
+    if high > 8 * low:
         axes.set_xscale("log")
-        axes.xaxis.set_major_locator(
-            ticker.LogLocator(subs=(1.0, 2.0, 5.0) if span < 100 else (1.0, 3.0))
-        )
+        subs = next((subs for ratio, subs in _SUBS if high < ratio * low), (1.0,))
+        axes.xaxis.set_major_locator(ticker.LogLocator(subs=subs, numticks=6))
         axes.xaxis.set_minor_locator(ticker.NullLocator())
-    axes.xaxis.set_major_formatter(ticker.FuncFormatter(lambda value, _: f"{value:,.0f}"))
+    else:
+        # What differs less is beside one another to a reader.
+        spare = max(0.0, max(10.0, 0.01 * high) - (high - low)) / 2
+        margin = spare + 0.05 * (high - low)
+        axes.set_xlim(low - margin, high + margin)
+        axes.xaxis.set_major_locator(ticker.MaxNLocator("auto", steps=(1, 2, 5, 10)))
+    axes.xaxis.set_major_formatter(ticker.FuncFormatter(lambda value, _: f"{value + 0.0:,.10g}"))
 
 
 class _Bars(NamedTuple):
@@ -187,11 +206,13 @@ def _draw_epochs(axes: Any, table: Any) -> None:
         )
         margin = max(0.03 * (edges[-1] - edges[0]), edges[1] - edges[0])
         axes.set_xlim(edges[0] - margin, edges[-1] + margin)
-        locator = AutoDateLocator(minticks=3, maxticks=6)
+        locator = AutoDateLocator(minticks=3, maxticks=7)
         axes.xaxis_date()
         axes.xaxis.set_major_locator(locator)
         axes.xaxis.set_major_formatter(ConciseDateFormatter(locator))
         axes.set_ylabel(f"messages per {span}")
+    else:
+        _leave_empty(axes, "no epochs that are a date")
     axes.yaxis.get_major_locator().set_params(integer=True)
     axes.set(xlabel="epoch (UTC)", title="Epochs")
     axes.grid(True, axis="y")
