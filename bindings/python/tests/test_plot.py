@@ -89,6 +89,27 @@ def test_altitudes_have_ticks_people_read(
     assert (axes.get_legend() is None) == (not ticks)
 
 
+CORNERS = [  # epochs; the part of the date that the corner tells for all ticks; the title
+    (["2026-09-03T22:10:50.309"], "2026-Sep-03", "of some words " * 20),
+    (["2026-09-03T23:10", "2026-09-04T00:50"], "2026-Sep-04", "a_file_name" * 25),
+    (["2026-12-10", "2026-12-31T21:00"], "2026-Dec", "two\nlines"),
+    (["2026-07-31", "2026-12-30"], "2026", "A satellite"),
+    (["1999-07-31", "2026-12-30"], "", ""),
+]
+
+
+@pytest.mark.parametrize(("epochs", "corner", "title"), CORNERS)
+def test_dates_and_titles_are_whole(epochs: list[str], corner: str, title: str) -> None:
+    figure = vcm.plot.epochs(np.array(epochs, [("epoch", "M8[ms]")]), title=title)
+    figure.draw_without_rendering()
+    assert figure.axes[0].xaxis.get_offset_text().get_text() == corner
+    if title:
+        above, axes = figure._suptitle.get_window_extent(), figure.axes[0].bbox
+        assert "".join(figure._suptitle.get_text().split()) == "".join(title.split())
+        assert 0 <= above.x0 < above.x1 <= figure.bbox.x1
+        assert axes.y0 < axes.y1 < above.y0 < above.y1 <= figure.bbox.y1
+
+
 def test_covariance_is_drawn_as_correlations() -> None:
     vcm.load(SAMPLES / "covariance.vcm")
     record = vcm.get(vcm.find(90411))
