@@ -77,6 +77,20 @@ def test_a_cluster_that_runs(folder: Path, cluster: str) -> None:
     check(folder, "--scheduler", cluster)
 
 
+@pytest.mark.parametrize(
+    ("options", "told"),
+    [
+        (["--workers", "0"], "'0' is no number from 1"),
+        (["-o", "absent/table.csv"], "No such file or directory: 'absent/table.csv'"),
+        (["-o", "table.txt"], "table.txt ends in neither .npy nor .csv"),
+    ],
+)
+def test_what_cannot_be_done_is_told_first(folder: Path, options: list[str], told: str) -> None:
+    done = run(folder, "a.vcm", *options)
+    assert (done.returncode, done.stdout) == (2, "") and told in done.stderr, done.stderr
+    assert "Traceback" not in done.stderr
+
+
 def test_a_file_that_is_absent(folder: Path) -> None:
     done = run(folder, "a.vcm", "absent.vcm", "-o", "part.csv")
     assert (done.returncode, done.stderr) == (2, "absent.vcm: No such file or directory\n")
