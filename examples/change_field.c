@@ -4,6 +4,8 @@
  *   change_field MESSAGES SATELLITE VALUE OUTPUT
  *   change_field samples/catalogue.vcm 1 0.0125 changed.vcm
  */
+#include <math.h>
+#include <stdint.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <vcm/Vcm.h>
@@ -22,7 +24,14 @@ static int failed(const char* what) {
   return 1;
 }
 
+static int wrong(const char* text, const char* what) {
+  fprintf(stderr, "%s is no %s\n", text, what);
+  return 2;
+}
+
 int main(int argc, char** argv) {
+  char value[32];
+  char* end = NULL;
   char epoch[VCM_FIELD_VALUE_LENGTH];
   char before[VCM_FIELD_VALUE_LENGTH];
   char after[VCM_FIELD_VALUE_LENGTH];
@@ -31,20 +40,29 @@ int main(int argc, char** argv) {
     fprintf(stderr, "usage: change_field MESSAGES SATELLITE VALUE OUTPUT\n");
     return 2;
   }
+  const long satellite = strtol(argv[2], &end, 10);
+  if (end == argv[2] || *end != '\0' || satellite < 0 || satellite > INT32_MAX) {
+    return wrong(argv[2], "satellite number");
+  }
+  const double bTerm = strtod(argv[3], &end);
+  if (end == argv[3] || *end != '\0' || !isfinite(bTerm)) {
+    return wrong(argv[3], "number"); /* the library would take it as 0 */
+  }
+  snprintf(value, sizeof value, "%.17g", bTerm);
   VcmInit();
   if (VcmLoadFile(argv[1]) != 0) {
     return failed("loading");
   }
-  const int64_t key = VcmGetSatKey(atoi(argv[2]));
+  const int64_t key = VcmGetSatKey((int32_t)satellite);
   if (key == -1 || VcmGetField(key, VCM_FIELD_EPOCH, epoch) != 0 ||
       VcmGetField(key, VCM_FIELD_BTERM, before) != 0) {
     return failed("looking the satellite up");
   }
-  if (VcmSetField(key, VCM_FIELD_BTERM, argv[3]) != 0 ||
+  if (VcmSetField(key, VCM_FIELD_BTERM, value) != 0 ||
       VcmGetField(key, VCM_FIELD_BTERM, after) != 0) {
     return failed("changing the field");
   }
-  printf("satellite %s at %.*s: %.*s -> %.*s m2/kg\n", argv[2], lengthOf(epoch, sizeof epoch),
+  printf("satellite %ld at %.*s: %.*s -> %.*s m2/kg\n", satellite, lengthOf(epoch, sizeof epoch),
          epoch, lengthOf(before, sizeof before), before, lengthOf(after, sizeof after), after);
   if (VcmSaveFile(argv[4], 0) != 0) {
     return failed("saving");

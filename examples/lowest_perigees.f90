@@ -43,7 +43,7 @@ program lowest_perigees
   call get_command_argument(1, file)
   call get_command_argument(2, wanted)
   read (wanted, *, iostat=i) count
-  if (i /= 0) call fail("usage: lowest_perigees MESSAGES COUNT")
+  if (i /= 0 .or. verify(trim(wanted), "0123456789") /= 0) call fail("usage: lowest_perigees MESSAGES COUNT")
   if (VcmLoadFile(trim(file) // c_null_char) /= 0) call fail("loading failed; HOST_TRACE_LOG=- shows why")
 
   allocate (keys(VcmGetCount()))

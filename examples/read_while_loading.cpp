@@ -6,9 +6,12 @@
 
 #include <array>
 #include <atomic>
-#include <cstdlib>
+#include <charconv>
+#include <cstdint>
 #include <iostream>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -45,15 +48,23 @@ int main(int argc, char** argv) {
     std::cerr << "usage: read_while_loading MESSAGES SATELLITE...\n";
     return 2;
   }
+  std::vector<std::int32_t> satellites;
+  for (const std::string_view text : std::vector<std::string_view>(argv + 2, argv + argc)) {
+    const char* const end = text.data() + text.size();
+    std::int32_t& satellite = satellites.emplace_back();
+    if (std::from_chars(text.data(), end, satellite) != std::from_chars_result{end, std::errc{}}) {
+      std::cerr << text << " is no satellite number\n";
+      return 2;
+    }
+  }
   VcmInit();
-  const std::vector<std::string> satellites(argv + 2, argv + argc);
   std::vector<std::string> found(satellites.size());
   std::atomic<bool> loaded = false;
   std::int32_t result = 0;
   {
     std::vector<std::jthread> readers;
     for (std::size_t i = 0; i < satellites.size(); ++i) {
-      readers.emplace_back([&, i] { found[i] = await(std::atoi(satellites[i].c_str()), loaded); });
+      readers.emplace_back([&, i] { found[i] = await(satellites[i], loaded); });
     }
     result = VcmLoadFile(argv[1]);
     loaded = true;

@@ -23,11 +23,14 @@ def worst(how_many: int) -> pandas.DataFrame:
 def main() -> None:
     if len(sys.argv) not in (2, 3):
         sys.exit(__doc__)
+    how_many = sys.argv[2] if len(sys.argv) == 3 else "10"
+    if not how_many.isdecimal():
+        sys.exit(f"{how_many!r} is no number of satellites")
     try:
         result = vcm.load(sys.argv[1])
     except vcm.FileError as error:
         sys.exit(str(error))
-    print(worst(int(sys.argv[2]) if len(sys.argv) == 3 else 10).to_string(index=False))
+    print(worst(int(how_many)).to_string(index=False))
     print(f"{result.loaded} messages, {result.duplicate} duplicate, {result.bad} bad")
 
 

@@ -4,7 +4,8 @@
 Each file is a task. A worker loads it through the package and hands back the table of its messages; here
 the tables become one, by satellite and epoch, in which a message that several files hold stands once.
 
-It ends with 0 when all was fine, 1 when a file held something bad, 2 when one could not be opened.
+It ends with 0 when all was fine, 1 when a file held something bad, 2 when one could not be opened or the table
+not be made.
 """
 
 import argparse
@@ -77,6 +78,14 @@ def one_table(shares: list[tuple[str, Any]]) -> tuple[Any, list[str]]:
     return table[order[~again[order]]], told
 
 
+def require_writable(path: str) -> None:
+    """Raises OSError now for what would else be told after all the work."""
+    is_new = not os.path.lexists(path)
+    open(path, "ab").close()
+    if is_new:
+        os.remove(path)
+
+
 def write(table: Any, path: str) -> None:
     if path.endswith(".npy"):
         np.save(path, table)
@@ -97,6 +106,12 @@ def report(file: str, result: vcm.LoadResult | str) -> int:
     return int(bool(result.faults))
 
 
+def number(text: str) -> int:
+    if not (text.isdecimal() and int(text) > 0):
+        raise argparse.ArgumentTypeError(f"{text!r} is no number from 1")
+    return int(text)
+
+
 def main() -> int:
     parser = argparse.ArgumentParser(description=(__doc__ or "").partition("\n")[0])
     parser.add_argument("files", nargs="+", metavar="FILE")
@@ -104,12 +119,14 @@ def main() -> int:
         "--scheduler", help="address of a cluster's scheduler, or the file it wrote"
     )
     parser.add_argument(
-        "--workers", type=int, help="processes to start, or of the cluster to wait for"
+        "--workers", type=number, help="processes to start, or of the cluster to wait for"
     )
     parser.add_argument("-o", "--output", metavar="TABLE", help="table.npy or table.csv")
     arguments = parser.parse_args()
     if not (arguments.output or ".npy").endswith((".npy", ".csv")):
         parser.error(f"{arguments.output} ends in neither .npy nor .csv")
+    if arguments.output:
+        require_writable(arguments.output)
 
     with connect(arguments.scheduler, arguments.workers) as client:
         # Workers may have another current directory.
@@ -133,4 +150,8 @@ def main() -> int:
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    try:
+        sys.exit(main())
+    except OSError as error:
+        print(f"read_catalogue: {error}", file=sys.stderr)
+        sys.exit(2)

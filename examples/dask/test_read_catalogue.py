@@ -77,6 +77,13 @@ def test_a_cluster_that_runs(folder: Path, cluster: str) -> None:
     check(folder, "--scheduler", cluster)
 
 
+@pytest.mark.parametrize("option", ["--workers=0", "--output=absent/table.csv"])
+def test_what_cannot_be_done_is_told_before_the_work(folder: Path, option: str) -> None:
+    done = run(folder, "a.vcm", option)
+    assert (done.returncode, done.stdout) == (2, "") and "Traceback" not in done.stderr, done.stderr
+    assert f"'{option.partition('=')[2]}'" in done.stderr
+
+
 def test_a_file_that_is_absent(folder: Path) -> None:
     done = run(folder, "a.vcm", "absent.vcm", "-o", "part.csv")
     assert (done.returncode, done.stderr) == (2, "absent.vcm: No such file or directory\n")

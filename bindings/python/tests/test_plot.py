@@ -1,5 +1,7 @@
 """Pictures: elements of known orbits, figures that hold what the data say, the command."""
 
+import os
+
 import numpy as np
 import pytest
 import vcm
@@ -60,6 +62,34 @@ def test_catalogue_shows_every_message_or_tells_of_it(copies: int) -> None:
     )  # fmt: skip
 
 
+AXES = [  # altitudes of perigee and apogee, epochs; ticks of altitudes in view, date in the corner
+    ((1127.9, 1128.1), ["2026-09-03T22:10"], "1,124 1,126 1,128 1,130 1,132", "2026-Sep-03"),
+    ((22, 7e8), ["2026-12-10", "2026-12-31"], "100 10,000 1,000,000 100,000,000", "2026-Dec"),
+    ((0.05, 29), ["2026-07-31", "2026-12-30"], "0.1 0.3 1 3 10 30", "2026"),
+    ((250, np.inf), ["2026-09-03T23:10", "2026-09-04T00:50"], "", "2026-Sep-04"),
+]
+
+
+@pytest.mark.parametrize(("ends", "epochs", "ticks", "corner"), AXES)
+@pytest.mark.parametrize("title", ["of some words " * 20, "a_file_name" * 25])
+def test_axes_and_titles_are_whole(ends, epochs, ticks, corner, title) -> None:  # type: ignore[no-untyped-def]
+    table = np.zeros(len(epochs), vcm.table().dtype)
+    near, far = np.array(ends) + EARTH_RADIUS
+    table["eciPosX"], table["eciVelY"] = near, np.sqrt(2 * EARTH_GM / (near + near**2 / far))
+    table["epoch"] = epochs
+    figure = vcm.plot.catalogue(table, title=title)
+    figure.draw_without_rendering()
+    (orbits, dates), above = figure.axes, figure._suptitle.get_window_extent()
+    low, high = orbits.get_xlim()
+    shown = [each for each in orbits.get_xticklabels() if low <= each.get_position()[0] <= high]
+    assert " ".join(each.get_text() for each in shown) == ticks
+    said = [each.get_text() for each in orbits.texts]
+    assert said == ["no closed orbits above the surface"] * (orbits.get_legend() is None)
+    assert dates.xaxis.get_offset_text().get_text() == corner
+    assert figure._suptitle.get_text().split() == title.split() or " " not in title
+    assert above.x0 >= 0 and above.y0 > orbits.bbox.y1 and (above.max <= figure.bbox.max).all()
+
+
 def test_covariance_is_drawn_as_correlations() -> None:
     vcm.load(SAMPLES / "covariance.vcm")
     record = vcm.get(vcm.find(90411))
@@ -82,14 +112,18 @@ def test_covariance_is_drawn_as_correlations() -> None:
 
 COMMANDS = [  # arguments; exit code, what is said, how the picture begins
     ("catalogue.vcm -o P.png", 0, "", b"\x89PNG"),
-    ("catalogue.vcm -k epochs -o P.pdf", 0, "", b"%PDF"),
+    ("- -k epochs -o P.pdf", 0, "", b"%PDF"),
     ("covariance.vcm -s 90411 --title a$b$c -o P.svg", 0, "", b"<?xml"),
+    ("/dev/null broken.vcm catalogue.vcm -o P.png", 1, "@ 'ECI POS'", b"\x89PNG"),
     ("broken.vcm -o P.png", 1, "@ 'ECI POS'", b"\x89PNG"),
     ("catalogue.vcm -s 1 -o P.png", 0, "no positive variance of af, ag, Bdot, AGOM", b"\x89PNG"),
+    ("catalogue.vcm -s 22550596187185 -o P.png", 0, "satellite 1: no positive", b"\x89PNG"),
+    ("catalogue.vcm -s 99999999999999999999 -o P.png", 1, "no message of key 9999999", b""),
+    ("catalogue.vcm -s -1 -o P.png", 2, "'-1' is no satellite number and no key", b""),
     ("features.vcm -s 2 -o P.png", 1, "satellite 2 has no covariance", b""),
     ("catalogue.vcm -s 999 -o P.png", 1, "catalogue.vcm: no message of satellite 999", b""),
     ("/dev/null -o P.png", 1, "/dev/null: no messages", b""),
-    ("absent.vcm -o P.png", 2, "absent.vcm: No such file", b""),
+    ("catalogue.vcm absent.vcm -o P.png", 2, "absent.vcm: No such file", b""),
     ("catalogue.vcm -o absent/P.png", 2, "absent/P.png: No such file", b""),
     ("catalogue.vcm -o P.gif", 2, "ends in none of .png, .svg, .pdf", b""),
     ("catalogue.vcm -k covariance -o P.png", 2, "--satellite and --kind covariance", b""),
@@ -102,6 +136,8 @@ def test_command(arguments, code, told, begin, tmp_path, capsys, monkeypatch) ->
     monkeypatch.chdir(tmp_path)
     for sample in SAMPLES.iterdir():
         (tmp_path / sample.name).symlink_to(sample)
+    with open("catalogue.vcm") as given:
+        os.dup2(given.fileno(), 0)
     matplotlib.use("agg")  # opens no window
     pictures = []
     for _ in range(2):

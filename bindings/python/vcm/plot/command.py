@@ -15,6 +15,7 @@ from ..dates import to_datetime
 
 _FINE, _BAD_INPUT, _FAILED = 0, 1, 2
 _ENDINGS = (".png", ".svg", ".pdf")
+_LARGEST_NUMBER = 999_999_999  # of a satellite; beyond are keys
 _COLUMNS = ("epoch", *(f"{name}{axis}" for name in ("eciPos", "eciVel") for axis in "XYZ"))
 
 
@@ -27,10 +28,16 @@ class _Failure(Exception):
 def add_arguments(parser: argparse.ArgumentParser) -> None:
     """The arguments of `plot`."""
     parser.description = (
-        "Draws the messages of a file: inclinations, altitudes and epochs of all,"
+        "Draws the messages of files: inclinations, altitudes and epochs of all,"
         " or the covariance of one satellite."
     )
-    parser.add_argument("file", metavar="FILE", help="the messages, in lines or one-line")
+    parser.add_argument(
+        "files",
+        metavar="FILE",
+        nargs="+",
+        type=lambda text: "/dev/stdin" if text == "-" else text,
+        help="the messages, in lines or one-line; - is standard input",
+    )
     parser.add_argument(
         "-o",
         "--output",
@@ -42,8 +49,9 @@ def add_arguments(parser: argparse.ArgumentParser) -> None:
         "-s",
         "--satellite",
         metavar="NUMBER",
-        type=int,
-        help="the satellite whose covariance is drawn, of its newest message",
+        type=_number,
+        help="the satellite whose covariance is drawn, of its newest message,"
+        " or the key of a message",
     )
     parser.add_argument(
         "-k",
@@ -62,7 +70,9 @@ def run(arguments: argparse.Namespace) -> int:
     if (kind == "covariance") != (arguments.satellite is not None):
         arguments.usage_error("--satellite and --kind covariance belong together")
     try:
-        status = _load(arguments.file)
+        status = max([_load(file) for file in arguments.files])
+        if messages.count() == 0:
+            raise _Failure(_BAD_INPUT, f"{_place(arguments)}: no messages to draw")
         if kind == "covariance":
             draw = _covariance(arguments)
         else:
@@ -86,8 +96,6 @@ def _load(path: str) -> int:
         raise _Failure(_FAILED, str(error)) from None
     for line in result.messages:
         print(line, file=sys.stderr)
-    if messages.count() == 0:
-        raise _Failure(_BAD_INPUT, f"{path}: no messages to draw")
     # That a message stands there twice does not make it bad.
     return _BAD_INPUT if result.faults else _FINE
 
@@ -97,9 +105,9 @@ def _table(arguments: argparse.Namespace, kind: str) -> Callable[[Any], Any]:
 
     table = tables.table(columns=_COLUMNS)
     for note in overview.notes(table, orbits=kind == "catalogue"):
-        _tell(f"{arguments.file}: {note}")
+        _tell(f"{_place(arguments)}: {note}")
     plural = "s" * (len(table) != 1)
-    title = _title(arguments, f"{Path(arguments.file).name}: {len(table):,} message{plural}")
+    title = _title(arguments, f"{Path(_place(arguments)).name}: {len(table):,} message{plural}")
     picture = overview.catalogue if kind == "catalogue" else overview.epochs
     return lambda figure: picture(table, title, figure)
 
@@ -107,22 +115,29 @@ def _table(arguments: argparse.Namespace, kind: str) -> Callable[[Any], Any]:
 def _covariance(arguments: argparse.Namespace) -> Callable[[Any], Any]:
     from . import uncertainty
 
-    satellite, file = arguments.satellite, arguments.file
+    number, place = arguments.satellite, _place(arguments)
+    column, kind = ("satNum", "satellite") if number <= _LARGEST_NUMBER else ("satKey", "key")
     every = tables.table(columns=("satNum", "epochDays", "satKey"))
-    own = every[every["satNum"] == satellite]
+    own = every[every[column] == number]
     if len(own) == 0:
-        raise _Failure(_BAD_INPUT, f"{file}: no message of satellite {satellite}")
+        raise _Failure(_BAD_INPUT, f"{place}: no message of {kind} {number}")
     newest = own[own["epochDays"].argmax()]
     record = messages.get(int(newest["satKey"]))
+    satellite = record.satNum
     epoch = to_datetime(record.epochDays).isoformat(" ", "milliseconds").removesuffix("+00:00")
     if record.covMtxSize == 0:
-        raise _Failure(_BAD_INPUT, f"{file}: satellite {satellite} has no covariance at {epoch}")
+        raise _Failure(_BAD_INPUT, f"{place}: satellite {satellite} has no covariance at {epoch}")
     several = [f"drawn is the newest of {len(own)} messages"] if len(own) > 1 else []
     for note in several + uncertainty.notes(record):
-        _tell(f"{file}: satellite {satellite}: {note}")
+        _tell(f"{place}: satellite {satellite}: {note}")
     designator = f" ({record.intlDes})" if record.intlDes else ""
     title = _title(arguments, f"Satellite {satellite}{designator}, {epoch} UTC")
     return lambda figure: uncertainty.covariance(record, title, figure)
+
+
+def _place(arguments: argparse.Namespace) -> str:
+    names = arguments.files
+    return str(names[0]) if len(names) == 1 else f"{len(names)} files"
 
 
 def _title(arguments: argparse.Namespace, usual: str) -> str:
@@ -155,6 +170,12 @@ def _picture(text: str) -> str:
     if Path(text).suffix.lower() not in _ENDINGS:
         raise argparse.ArgumentTypeError(f"{text!r} ends in none of {', '.join(_ENDINGS)}")
     return text
+
+
+def _number(text: str) -> int:
+    if not text.isdecimal():
+        raise argparse.ArgumentTypeError(f"{text!r} is no satellite number and no key")
+    return int(text)
 
 
 def _dpi(text: str) -> int:

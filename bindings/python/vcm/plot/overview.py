@@ -1,27 +1,17 @@
 """The catalogue as a whole: where its satellites fly, and of when its messages are."""
 
-from typing import Any, NamedTuple
+from typing import Any
 
 import numpy as np
-import numpy.typing as npt
 from matplotlib import ticker  # type: ignore[import]
-from matplotlib.dates import AutoDateLocator, ConciseDateFormatter  # type: ignore[import]
 from matplotlib.lines import Line2D  # type: ignore[import]
 
+from . import calendar
 from .elements import Elements, Numbers, of_table
-from .style import BLUE, GREEN, GREY, VERMILION, annotate, prepare, styled
+from .style import BLUE, GREY, VERMILION, annotate, leave_empty, prepare, styled
 
 _MOST_MARKS = 500  # with more satellites, points are a cloud
-_MOST_BARS = 60
-_SPANS = {
-    "hour": "h",
-    "6 hours": "6h",
-    "day": "D",
-    "7 days": "7D",
-    "month": "M",
-    "year": "Y",
-    "decade": "10Y",
-}
+_SUBS = ((100, (1.0, 2.0, 5.0)), (1000, (1.0, 3.0)))  # of a log axis, by how far it goes
 
 
 def catalogue(table: Any, title: str, figure: Any) -> Any:
@@ -30,7 +20,7 @@ def catalogue(table: Any, title: str, figure: Any) -> Any:
         figure = prepare(figure, 9, 4.2)
         left, right = figure.subplots(1, 2, gridspec_kw={"width_ratios": (1.25, 1)})
         _draw_orbits(left, of_table(table))
-        _draw_epochs(right, table)
+        calendar.draw(right, table)
         annotate(figure, title, notes(table, orbits=True))
     return figure
 
@@ -39,7 +29,7 @@ def epochs(table: Any, title: str, figure: Any) -> Any:
     """Epochs over time alone."""
     with styled():
         figure = prepare(figure, 9, 3.6)
-        _draw_epochs(figure.subplots(), table)
+        calendar.draw(figure.subplots(), table)
         annotate(figure, title, notes(table, orbits=False))
     return figure
 
@@ -54,7 +44,7 @@ def notes(table: Any, orbits: bool) -> list[str]:
         counts["degenerate states"] = found.degenerate.sum()
         counts["perigees below the surface"] = (bound & (found.perigee <= 0)).sum()
         counts["apogees below the surface"] = (bound & (found.apogee <= 0)).sum()
-    counts["epochs that are no date"] = (~_known(_dates(table))).sum()
+    counts["epochs that are no date"] = calendar.unknown(table)
     told = [f"{what} {count:,}" for what, count in counts.items() if count]
     return ["left out: " + ", ".join(told)] if told else []
 
@@ -68,13 +58,32 @@ def _draw_orbits(axes: Any, found: Elements) -> None:
     )
     draw = _draw_marks if len(inclination) <= _MOST_MARKS else _draw_cloud
     draw(axes, inclination, perigee, apogee)
+    altitudes = np.concatenate([perigee, apogee])
+    altitudes = altitudes[altitudes > 0]
+    if len(altitudes):
+        _name_ends(axes, draw is _draw_cloud)
+        _scale_altitudes(axes, altitudes)
+    else:
+        leave_empty(axes, "no closed orbits above the surface")
+    top = 30 * np.ceil(max(90.0, inclination.max(initial=0.0)) / 30)
+    axes.set(
+        xlabel="altitude (km)",
+        ylabel="inclination (°)",
+        title="Orbits",
+        ylim=(-0.02 * top, 1.02 * top),
+    )
+    axes.yaxis.set_major_locator(ticker.MultipleLocator(30))
+    axes.grid(True)
+
+
+def _name_ends(axes: Any, is_cloud: bool) -> None:
     handles = [
         Line2D([], [], color=BLUE, marker="o", ls="", ms=3.5, label="perigee"),
         Line2D(
             [], [], color=VERMILION, marker="s", ls="", ms=5, mfc="none", mew=0.9, label="apogee"
         ),
     ]
-    if draw is _draw_cloud:
+    if is_cloud:
         handles[1].set(marker="o", markersize=3.5, markerfacecolor=VERMILION)
     axes.legend(
         handles=handles,
@@ -85,17 +94,6 @@ def _draw_orbits(axes: Any, found: Elements) -> None:
         handletextpad=0.1,
         columnspacing=1.0,
     )
-    altitudes = np.concatenate([perigee, apogee])
-    _scale_altitudes(axes, altitudes[altitudes > 0])
-    top = 30 * np.ceil(max(90.0, inclination.max(initial=0.0)) / 30)
-    axes.set(
-        xlabel="altitude (km)",
-        ylabel="inclination (°)",
-        title="Orbits",
-        ylim=(-0.02 * top, 1.02 * top),
-    )
-    axes.yaxis.set_major_locator(ticker.MultipleLocator(30))
-    axes.grid(True)
 
 
 def _draw_marks(axes: Any, inclination: Numbers, perigee: Numbers, apogee: Numbers) -> None:
@@ -139,59 +137,16 @@ def _draw_cloud(axes: Any, inclination: Numbers, perigee: Numbers, apogee: Numbe
 
 def _scale_altitudes(axes: Any, altitudes: Numbers) -> None:
     """A log axis where low and high orbits are together; ticks as numbers people read."""
-    span = altitudes.max() / altitudes.min() if len(altitudes) else 1.0
-    if span > 8:
+    low, high = altitudes.min(), altitudes.max()
+    if high > 8 * low:
         axes.set_xscale("log")
-        axes.xaxis.set_major_locator(
-            ticker.LogLocator(subs=(1.0, 2.0, 5.0) if span < 100 else (1.0, 3.0))
-        )
+        subs = next((subs for ratio, subs in _SUBS if high < ratio * low), (1.0,))
+        axes.xaxis.set_major_locator(ticker.LogLocator(subs=subs, numticks=6))
         axes.xaxis.set_minor_locator(ticker.NullLocator())
-    axes.xaxis.set_major_formatter(ticker.FuncFormatter(lambda value, _: f"{value:,.0f}"))
-
-
-class _Bars(NamedTuple):
-    """A histogram over spans of the calendar."""
-
-    span: str
-    edges: Numbers  # in days, as matplotlib counts them
-    counts: npt.NDArray[np.int64]
-
-
-def _bars(dates: npt.NDArray[np.datetime64]) -> _Bars:
-    """The finest spans that leave few enough bars."""
-    for span, unit in _SPANS.items():
-        indexes = dates.astype(f"M8[{unit}]").astype(np.int64)
-        first, last = int(indexes.min()), int(indexes.max())
-        if last - first < _MOST_BARS:
-            break
-    edges = np.arange(first, last + 2).astype(f"M8[{unit}]").astype("M8[us]")
-    return _Bars(span, edges.astype(np.int64) / 86400e6, np.bincount(indexes - first))
-
-
-def _dates(table: Any) -> npt.NDArray[np.datetime64]:
-    return np.asarray(table["epoch"]).astype("M8[us]")
-
-
-def _known(dates: npt.NDArray[np.datetime64]) -> npt.NDArray[np.bool_]:
-    """Those that a calendar's axis can show."""
-    return (dates >= np.datetime64("0010-01-01")) & (dates < np.datetime64("9900-01-01"))
-
-
-def _draw_epochs(axes: Any, table: Any) -> None:
-    dates = _dates(table)
-    dates = dates[_known(dates)]
-    if len(dates):
-        span, edges, counts = _bars(dates)
-        axes.bar(
-            edges[:-1], counts, np.diff(edges), align="edge", color=GREEN, edgecolor="white", lw=0.5
-        )
-        margin = max(0.03 * (edges[-1] - edges[0]), edges[1] - edges[0])
-        axes.set_xlim(edges[0] - margin, edges[-1] + margin)
-        locator = AutoDateLocator(minticks=3, maxticks=6)
-        axes.xaxis_date()
-        axes.xaxis.set_major_locator(locator)
-        axes.xaxis.set_major_formatter(ConciseDateFormatter(locator))
-        axes.set_ylabel(f"messages per {span}")
-    axes.yaxis.get_major_locator().set_params(integer=True)
-    axes.set(xlabel="epoch (UTC)", title="Epochs")
-    axes.grid(True, axis="y")
+    else:
+        # What differs less is beside one another to a reader.
+        spare = max(0.0, max(10.0, 0.01 * high) - (high - low)) / 2
+        margin = spare + 0.05 * (high - low)
+        axes.set_xlim(low - margin, high + margin)
+        axes.xaxis.set_major_locator(ticker.MaxNLocator("auto", steps=(1, 2, 5, 10)))
+    axes.xaxis.set_major_formatter(ticker.FuncFormatter(lambda value, _: f"{value + 0.0:,.10g}"))

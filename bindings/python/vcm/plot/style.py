@@ -1,11 +1,13 @@
 """The look that all pictures share, and how they are written."""
 
 import io
+import textwrap
 from pathlib import Path
 from typing import Any
 
 import matplotlib  # type: ignore[import]
 from matplotlib.figure import Figure  # type: ignore[import]
+from matplotlib.ticker import NullLocator  # type: ignore[import]
 
 # Colours that colour-blind readers tell apart (Okabe and Ito).
 BLUE, VERMILION, GREEN, GREY = "#0072B2", "#D55E00", "#009E73", "#666666"
@@ -48,9 +50,22 @@ def prepare(figure: Any, width: float, height: float) -> Any:
 def annotate(figure: Any, title: str, notes: list[str]) -> None:
     """Puts the title above, and below what a reader must know."""
     if title:
-        figure.suptitle(title, fontsize=12, fontweight="bold", parse_math=False)
+        text = _wrap(title, figure, 7)
+        figure.suptitle(text, fontsize=12, fontweight="bold", parse_math=False)
     if notes:
-        figure.supxlabel("; ".join(notes), fontsize=9, color=GREY)
+        figure.supxlabel(_wrap("; ".join(notes), figure, 12), fontsize=9, color=GREY)
+
+
+def _wrap(text: str, figure: Any, letters: int) -> str:
+    """In lines that fit into the figure; an inch takes so many letters."""
+    width = max(1, int(figure.get_figwidth() * letters))
+    return "\n".join(textwrap.fill(line, width) for line in text.splitlines())
+
+
+def leave_empty(axes: Any, why: str) -> None:
+    """Says in a picture without data why there is none."""
+    axes.xaxis.set_major_locator(NullLocator())
+    axes.text(0.5, 0.5, why, transform=axes.transAxes, ha="center", color=GREY)
 
 
 def save(figure: Any, path: str, dpi: int) -> None:
