@@ -1,5 +1,7 @@
 #include "commands/Loading.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -29,6 +31,20 @@ class Counting final : public vcm::ReadingObserver {
 
 }  // namespace
 
+ExitCode loadFile(const std::string& file, vcm::ReadingObserver& observer, Progress& progress) {
+  const FileReading reading = readMessageFile(file, observer, progress);
+  if (reading.code != 0) {
+    // The code does not tell this file from one that its cards name.
+    printFailure(isReadable(file) ? file + ": a file that it names" : file, reading.code);
+    return kFailed;
+  }
+  if (!reading.lack.empty()) {
+    printMessage(fmt::format("vcm: {}: {}", file, reading.lack));
+    return kBadInput;
+  }
+  return kFine;
+}
+
 ExitCode loadFiles(const Inputs& inputs) {
   ExitCode result = kFine;
   // The count line has no place for messages that are refused at the store's door, so what is bad
@@ -46,10 +62,7 @@ ExitCode loadFiles(const Inputs& inputs) {
   Counting counting(progress);
   for (const std::string& file : inputs.files) {
     progress.file(file);
-    if (const std::int32_t code = readMessageFile(file, counting, progress); code != 0) {
-      reportUnopened(file, code);
-      result = kFailed;
-    }
+    result = std::max(result, loadFile(file, counting, progress));
   }
   return result;
 }
