@@ -9,8 +9,31 @@
 #include "messages/Forms.h"
 #include "messages/Latin1.h"
 #include "terminal/Screen.h"
+#include "terminal/Trace.h"
 
 namespace vcmtool {
+
+namespace {
+
+// The library takes what it cannot read as zero, with no more than an error line.
+bool isNumber(std::string_view value, const vcm::SingleField& field) {
+  bool good = true;
+  const Trace trace([&good](bool isError, std::string_view /*line*/) { good = good && !isError; });
+  vcm::VcmRecord scratch;
+  return field.read(value, scratch) && good;
+}
+
+std::string wrongNumber(const std::string& text, std::string_view value,
+                        const vcm::SingleField& field) {
+  if (value.empty()) {
+    return text + ": no value";
+  }
+  return isNumber(value, field)
+             ? std::string()
+             : text + (field.kind == vcm::FieldKind::integer ? ": no whole number" : ": no number");
+}
+
+}  // namespace
 
 FieldChange::FieldChange(std::string_view given)
     : text(given),
@@ -44,7 +67,12 @@ std::string wrongFieldChange(const std::string& text) {
   if (change.field->kind == vcm::FieldKind::date && !isFieldDate(value)) {
     return text + ": no date like 2016366235959.000";
   }
-  return {};
+  const bool isNumeric =
+      change.field->kind == vcm::FieldKind::integer || change.field->kind == vcm::FieldKind::real;
+  // Fields that make up the key have no reader: the library refuses any value.
+  return isNumeric && change.field->read != nullptr
+             ? wrongNumber(text, vcm::withoutLeadingBlanks(value), *change.field)
+             : std::string();
 }
 
 bool isHeld(const vcm::VcmRecord& record, const FieldChange& change, const std::string& form) {

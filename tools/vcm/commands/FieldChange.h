@@ -22,8 +22,8 @@ struct FieldChange {
 // Whether a text is a date as fields show it, with every digit in its place.
 bool isFieldDate(std::string_view value);
 
-// What is wrong with such a text, or an empty one. The library would cut texts and take dates as they
-// come.
+// What is wrong with such a text, or an empty one. The library would cut texts, and take
+// dates as they come and what is no number as zero.
 std::string wrongFieldChange(const std::string& text);
 
 // Tells the user what a form makes of a field that was changed. False when it cannot hold the value at

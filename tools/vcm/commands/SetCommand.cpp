@@ -66,12 +66,10 @@ void checkUsage(const SetOptions& options) {
   }
 }
 
-// False when a change was refused. What the library cannot read it takes as zero, with no more than
-// an error line.
+// False when a change was refused, which the library says itself.
 bool change(const std::vector<std::int64_t>& keys, const std::vector<std::string>& changes) {
   bool good = true;
-  const Trace trace([&good](bool isError, std::string_view line) {
-    good = good && !isError;
+  const Trace trace([](bool isError, std::string_view line) {
     if (isError) {
       printMessage(line);
     }
