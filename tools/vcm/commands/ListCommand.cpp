@@ -36,8 +36,9 @@ Orders: satellite (by number, then epoch), reverse (the same backwards), loaded
 (as read) and key. Messages that --sort finds equal keep that order; a "-" before
 a field sorts it descending.
 
-Operators of --where: = != < <= > >=. Dates are 2016366235959.000 or
-2016-366T23:59:59.000Z. Of several conditions all must hold.
+Operators of --where: = != < <= > >=. Dates are 2016366235959.000, or a day
+(2016-366, 2016-12-31) with or without a time behind T or a blank (23:59,
+23:59:59.000Z). Of several conditions all must hold.
 
 Examples:
   vcm list catalogue.vcm

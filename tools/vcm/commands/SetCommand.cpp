@@ -25,8 +25,9 @@ namespace vcmtool {
 namespace {
 
 constexpr const char* kExamples = R"(
-Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss; units
-are those of a message: km, km/s, s, m2/kg, arcsec; ut1Rate is in ms/day.
+Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss or
+those of vcm list --where; units are those of a message: km, km/s, s, m2/kg,
+arcsec; ut1Rate is in ms/day.
 
 All messages of FILE are written, in its form unless --to says another: in the
 multi-line one where it has several, or is a pipe. Comments, cards that name
