@@ -10,7 +10,9 @@
 #include "VCM/VcmFormats/NumberReading.h"
 #include "commands/FieldNames.h"
 #include "commands/GivenDate.h"
+#include "messages/Designator.h"
 #include "messages/Latin1.h"
+#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
@@ -79,7 +81,8 @@ std::string readValue(std::string_view value, Condition& condition) {
     case vcm::FieldKind::text:
       break;
   }
-  const auto text = latin1OfUtf8(value);
+  const bool isDesignator = condition.field->index == VCM_FIELD_INTLDES;
+  const auto text = latin1OfUtf8(isDesignator ? shortDesignator(value) : value);
   condition.text = text.value_or("");
   return text ? std::string() : fmt::format("{}: a character that no message can hold", value);
 }

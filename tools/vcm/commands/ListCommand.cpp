@@ -81,6 +81,9 @@ std::vector<std::int64_t> selectedKeys(const ListOptions& options) {
       return !condition.holds(*vcm::BorrowedRecord(vcm::mediaVcm, key));
     });
   }
+  if (keys.empty() && !options.conditions.empty() && VcmGetCount() > 0 && !options.inputs.quiet) {
+    printMessage("vcm: no message meets the conditions");
+  }
   sortByFields(keys, options.sort);
   return keys;
 }
