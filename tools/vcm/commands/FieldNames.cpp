@@ -4,49 +4,12 @@
 #include <strings.h>
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
-#include <numeric>
 #include <vector>
 
+#include "commands/NearestName.h"
+
 namespace vcmtool {
-
-namespace {
-
-// Characters to put in, take out or change until one name is the other.
-std::size_t distance(std::string_view from, std::string_view to) {
-  std::vector<std::size_t> row(to.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (const char c : from) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t i = 0; i < to.size(); ++i) {
-      const bool same = std::tolower(static_cast<unsigned char>(c)) ==
-                        std::tolower(static_cast<unsigned char>(to[i]));
-      const std::size_t changed = diagonal + (same ? 0 : 1);
-      diagonal = row[i + 1];
-      row[i + 1] = std::min({changed, row[i] + 1, diagonal + 1});
-    }
-  }
-  return row.back();
-}
-
-// Empty when no field's name is near: then a guess would be none.
-std::string_view nearestName(std::string_view wrong) {
-  constexpr std::size_t kLongest = 30;
-  constexpr std::size_t kCharactersPerMistake = 3;
-  const auto distances = [wrong](const vcm::SingleField& a, const vcm::SingleField& b) {
-    return distance(wrong, a.name) < distance(wrong, b.name);
-  };
-  if (wrong.size() > kLongest) {
-    return {};
-  }
-  const auto& nearest =
-      *std::min_element(vcm::kSingleFields.begin(), vcm::kSingleFields.end(), distances);
-  return distance(wrong, nearest.name) <= (wrong.size() + 1) / kCharactersPerMistake ? nearest.name
-                                                                                     : "";
-}
-
-}  // namespace
 
 const vcm::SingleField* fieldNamed(std::string_view nameOrIndex) {
   const std::string wanted(nameOrIndex);
@@ -62,9 +25,10 @@ std::string unknownField(std::string_view nameOrIndex) {
   if (fieldNamed(nameOrIndex) != nullptr) {
     return {};
   }
-  const std::string_view nearest = nearestName(nameOrIndex);
-  return fmt::format("{} is no field{}", nameOrIndex,
-                     nearest.empty() ? "" : fmt::format("; did you mean {}?", nearest));
+  std::vector<std::string_view> names(vcm::kSingleFields.size());
+  std::transform(vcm::kSingleFields.begin(), vcm::kSingleFields.end(), names.begin(),
+                 [](const vcm::SingleField& field) { return field.name; });
+  return fmt::format("{} is no field{}", nameOrIndex, nearestName(nameOrIndex, names));
 }
 
 std::string fieldNames() {
