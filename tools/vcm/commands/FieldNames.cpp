@@ -8,17 +8,43 @@
 #include <vector>
 
 #include "commands/NearestName.h"
+#include "messages/RecordFields.h"
 
 namespace vcmtool {
+
+namespace {
+
+// In small or capital letters.
+bool isSame(std::string_view name, const std::string& wanted) {
+  return strcasecmp(std::string(name).c_str(), wanted.c_str()) == 0;
+}
+
+// The index of the field that is shown by this name, 0 when there is none.
+std::int32_t indexOfShown(const std::string& wanted) {
+  for (const RecordField& field : kRecordFields) {
+    const auto* const vector = std::get_if<VectorMember>(&field.member);
+    if (vector == nullptr && isSame(field.name, wanted)) {
+      return field.single;
+    }
+    for (std::size_t i = 0; vector != nullptr && field.single != 0 && i < vector->axes.size();
+         ++i) {
+      if (isSame(vector->component(i), wanted)) {
+        return field.single + static_cast<std::int32_t>(i);
+      }
+    }
+  }
+  return 0;
+}
+
+}  // namespace
 
 const vcm::SingleField* fieldNamed(std::string_view nameOrIndex) {
   const std::string wanted(nameOrIndex);
   const auto found = std::find_if(
       vcm::kSingleFields.begin(), vcm::kSingleFields.end(), [&wanted](const vcm::SingleField& row) {
-        return strcasecmp(std::string(row.name).c_str(), wanted.c_str()) == 0 ||
-               std::to_string(row.index) == wanted;
+        return isSame(row.name, wanted) || std::to_string(row.index) == wanted;
       });
-  return found == vcm::kSingleFields.end() ? nullptr : &*found;
+  return found == vcm::kSingleFields.end() ? vcm::findSingleField(indexOfShown(wanted)) : &*found;
 }
 
 std::string unknownField(std::string_view nameOrIndex) {

@@ -137,7 +137,14 @@ ExitCode list(const ListOptions& options) {
 // Adds an option whose argument is a list separated by commas, and which may be repeated.
 CLI::Option* addList(CLI::App& command, const std::string& name, std::vector<std::string>& list,
                      const std::string& description) {
-  return command.add_option(name, list, description)->delimiter(',')->allow_extra_args(false);
+  const auto trim = [](std::string& item) {
+    CLI::detail::trim(item);
+    return std::string();
+  };
+  return command.add_option(name, list, description)
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->transform(CLI::Validator(trim, ""));
 }
 
 }  // namespace
