@@ -51,10 +51,11 @@ ExitCode loadFiles(const Inputs& inputs) {
   // is told from the error lines: each stands for a bad message unless it reports a duplicate.
   const Trace trace([&](bool isError, std::string_view line) {
     const bool duplicate = line.starts_with("AddRecToMem: Duplicated");
-    if (isError && (inputs.duplicatesAreBad || !duplicate)) {
+    const bool isFault = isError && (inputs.duplicatesAreBad || !duplicate);
+    if (isFault) {
       result = std::max(result, kBadInput);
     }
-    if (isError || !inputs.quiet) {
+    if (isFault || !inputs.quiet) {
       printMessage(line);
     }
   });
