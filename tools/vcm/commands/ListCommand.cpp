@@ -30,7 +30,8 @@ constexpr const char* kFooter =
 Columns of the table: satellite number, international designator, epoch (year,
 day of year, time, UTC), revolution number, dimension of the covariance (0:
 none), position and velocity in the Earth-centred inertial frame (true of date),
-key. With --columns they are the fields that it names, in the units of vcm get.
+key. With --columns they are the fields that it names, in the units of vcm get,
+and "key".
 
 Orders: satellite (by number, then epoch), reverse (the same backwards), loaded
 (as read) and key. Messages that --sort finds equal keep that order; a "-" before
@@ -102,17 +103,25 @@ void writeTable(StandardOutput& output, const std::vector<std::int64_t>& keys) {
   }
 }
 
+bool isKeyColumn(const std::string& name) { return CLI::detail::to_lower(name) == kKeyColumnName; }
+
+std::string unknownColumn(const std::string& name) {
+  return isKeyColumn(name) ? "" : unknownField(name);
+}
+
 void writeColumns(StandardOutput& output, const std::vector<std::int64_t>& keys,
                   const std::vector<std::string>& names) {
   std::vector<const vcm::SingleField*> fields(names.size());
-  std::transform(names.begin(), names.end(), fields.begin(), fieldNamed);
+  std::transform(names.begin(), names.end(), fields.begin(), [](const std::string& name) {
+    return isKeyColumn(name) ? kKeyColumn : fieldNamed(name);
+  });
   FieldColumns table(fields);
   for (const std::int64_t key : keys) {
-    table.measure(*vcm::BorrowedRecord(vcm::mediaVcm, key));
+    table.measure(key, *vcm::BorrowedRecord(vcm::mediaVcm, key));
   }
   table.appendHeader(output.buffer());
   for (const std::int64_t key : keys) {
-    table.append(output.buffer(), *vcm::BorrowedRecord(vcm::mediaVcm, key));
+    table.append(output.buffer(), key, *vcm::BorrowedRecord(vcm::mediaVcm, key));
     if (!output.lineDone()) {
       break;
     }
@@ -159,7 +168,7 @@ void addListCommand(CLI::App& program, ExitCode& exitCode) {
       ->capture_default_str();
   addList(*command, "--columns", options->columns, "Fields to show in place of the usual table")
       ->type_name("FIELD,...")
-      ->check(unknownField);
+      ->check(unknownColumn);
   command->add_option("--where", options->conditions, "Only messages that meet a condition")
       ->type_name("'FIELD OP VALUE'")
       ->allow_extra_args(false)
