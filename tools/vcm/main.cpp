@@ -3,15 +3,18 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <iostream>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "commands/Command.h"
+#include "commands/CommandWord.h"
 #include "commands/Completion.h"
 #include "terminal/Colors.h"
 #include "vcm/Vcm.h"
@@ -28,7 +31,8 @@ constexpr const char* kExamples = R"(Examples:
   vcm convert today.one -o today.vcm          one-line messages to multi-line ones
   vcm convert a.vcm -o a.json --to json       everything, for other programs
   vcm expand today.one today.vcm              columns copied, nothing checked
-  vcm list --help                             more about a command
+  vcm help list                               more about a command
+  python3 -m vcm plot catalogue.vcm           pictures, with the package python3-vcm
 
 Files are read in every form but CSV; - is standard input.
 Exit codes: 0 fine, 1 something in the input was bad or, for diff, different,
@@ -96,7 +100,12 @@ int main(int argc, char** argv) {
     return complete(program, std::span(words).subspan(1));
   }
   try {
-    program.parse(argc, argv);
+    std::vector<std::string> given = vcmtool::withHelpAsOption(words);
+    if (const std::string wrong = vcmtool::unknownCommand(program, given); !wrong.empty()) {
+      throw CLI::ValidationError(wrong);
+    }
+    std::reverse(given.begin(), given.end());  // as the parser wants them
+    program.parse(std::move(given));
   } catch (const CLI::ParseError& error) {
     return program.exit(error) == 0 ? vcmtool::kFine : vcmtool::kFailed;
   }

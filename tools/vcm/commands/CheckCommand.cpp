@@ -9,6 +9,7 @@
 #include "commands/Command.h"
 #include "commands/Findings.h"
 #include "commands/Inputs.h"
+#include "commands/Loading.h"
 #include "files/MessageFile.h"
 #include "terminal/Progress.h"
 #include "terminal/Screen.h"
@@ -40,9 +41,9 @@ void writeTally(StandardOutput& output, std::string_view title, const Tally& tal
 // What all files come to.
 struct Verdict {
   Tally tally;
-  bool unopened = false;
+  ExitCode loaded = kFine;
 
-  ExitCode exitCode() const { return unopened ? kFailed : tally.bad > 0 ? kBadInput : kFine; }
+  ExitCode exitCode() const { return std::max(loaded, tally.bad > 0 ? kBadInput : kFine); }
 };
 
 void checkFile(const std::string& file, bool quiet, StandardOutput& output, Progress& progress,
@@ -55,12 +56,10 @@ void checkFile(const std::string& file, bool quiet, StandardOutput& output, Prog
       printMessage(line);
     }
   });
-  const std::int32_t code = readMessageFile(file, findings, progress);
+  const ExitCode loaded = loadFile(file, findings, progress);
   verdict.tally += findings.tally();
-  if (code != 0) {
-    reportUnopened(file, code);
-    verdict.unopened = true;
-  } else if (!quiet) {
+  verdict.loaded = std::max(verdict.loaded, loaded);
+  if (loaded != kFailed && !quiet) {
     writeTally(output, file, findings.tally());
   }
 }

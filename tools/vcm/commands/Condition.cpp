@@ -4,16 +4,15 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <string_view>
 #include <variant>
 
-#include "VCM/VcmFormats/FieldDate.h"
 #include "VCM/VcmFormats/NumberReading.h"
-#include "commands/FieldChange.h"
 #include "commands/FieldNames.h"
-#include "messages/IsoDate.h"
+#include "commands/GivenDate.h"
+#include "messages/Designator.h"
 #include "messages/Latin1.h"
+#include "vcm/Vcm.h"
 
 namespace vcmtool {
 
@@ -61,18 +60,11 @@ bool readNumber(std::string_view value, const vcm::SingleField& field, double& n
   return true;
 }
 
-// What is typed by mistake would be another day in silence.
-bool isInCalendar(const vcm::InputDate& date) {
-  const int days = std::chrono::year(date.year).is_leap() ? 366 : 365;
-  return date.dayOfYear >= 1 && date.dayOfYear <= days && date.hour >= 0 && date.hour < 24 &&
-         date.minute >= 0 && date.minute < 60 && date.seconds >= 0 && date.seconds < 61;
-}
-
 bool readDate(std::string_view value, double& days) {
   vcm::InputDate date;
-  const bool read = isFieldDate(value) ? vcm::readFieldDate(value, date) : readIsoDate(value, date);
+  const bool read = readGivenDate(value, date);
   days = vcm::inputDateToDs50(date);
-  return read && isInCalendar(date);
+  return read;
 }
 
 std::string readValue(std::string_view value, Condition& condition) {
@@ -83,15 +75,14 @@ std::string readValue(std::string_view value, Condition& condition) {
                  ? std::string()
                  : fmt::format("\"{}\" is no number", value);
     case vcm::FieldKind::date:
-      return readDate(value, condition.number) ? std::string()
-                                               : fmt::format(
-                                                     "\"{}\" is no date like 2016366235959.000 or "
-                                                     "2016-366T23:59:59.000Z",
-                                                     value);
+      return readDate(value, condition.number)
+                 ? std::string()
+                 : fmt::format("\"{}\" is no date like {}", value, kGivenDates);
     case vcm::FieldKind::text:
       break;
   }
-  const auto text = latin1OfUtf8(value);
+  const bool isDesignator = condition.field->index == VCM_FIELD_INTLDES;
+  const auto text = latin1OfUtf8(isDesignator ? shortDesignator(value) : value);
   condition.text = text.value_or("");
   return text ? std::string() : fmt::format("{}: a character that no message can hold", value);
 }

@@ -15,15 +15,13 @@ struct FieldChange {
   explicit FieldChange(std::string_view given);
 
   std::string text;
-  const vcm::SingleField* field;     // null when there is none
-  std::optional<std::string> value;  // none when a message cannot hold its characters
+  const vcm::SingleField* field;  // null when there is none
+  // As a message states it; none when no message can hold that.
+  std::optional<std::string> value;
 };
 
-// Whether a text is a date as fields show it, with every digit in its place.
-bool isFieldDate(std::string_view value);
-
-// What is wrong with such a text, or an empty one. The library would cut texts and take dates as they
-// come.
+// What is wrong with such a text, or an empty one. The library would cut texts, and take
+// dates as they come and what is no number as zero.
 std::string wrongFieldChange(const std::string& text);
 
 // Tells the user what a form makes of a field that was changed. False when it cannot hold the value at

@@ -4,46 +4,36 @@
 #include <strings.h>
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
-#include <numeric>
 #include <vector>
+
+#include "commands/NearestName.h"
+#include "messages/RecordFields.h"
 
 namespace vcmtool {
 
 namespace {
 
-// Characters to put in, take out or change until one name is the other.
-std::size_t distance(std::string_view from, std::string_view to) {
-  std::vector<std::size_t> row(to.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (const char c : from) {
-    std::size_t diagonal = row[0]++;
-    for (std::size_t i = 0; i < to.size(); ++i) {
-      const bool same = std::tolower(static_cast<unsigned char>(c)) ==
-                        std::tolower(static_cast<unsigned char>(to[i]));
-      const std::size_t changed = diagonal + (same ? 0 : 1);
-      diagonal = row[i + 1];
-      row[i + 1] = std::min({changed, row[i] + 1, diagonal + 1});
-    }
-  }
-  return row.back();
+// In small or capital letters.
+bool isSame(std::string_view name, const std::string& wanted) {
+  return strcasecmp(std::string(name).c_str(), wanted.c_str()) == 0;
 }
 
-// Empty when no field's name is near: then a guess would be none.
-std::string_view nearestName(std::string_view wrong) {
-  constexpr std::size_t kLongest = 30;
-  constexpr std::size_t kCharactersPerMistake = 3;
-  const auto distances = [wrong](const vcm::SingleField& a, const vcm::SingleField& b) {
-    return distance(wrong, a.name) < distance(wrong, b.name);
-  };
-  if (wrong.size() > kLongest) {
-    return {};
+// The index of the field that is shown by this name, 0 when there is none.
+std::int32_t indexOfShown(const std::string& wanted) {
+  for (const RecordField& field : kRecordFields) {
+    const auto* const vector = std::get_if<VectorMember>(&field.member);
+    if (vector == nullptr && isSame(field.name, wanted)) {
+      return field.single;
+    }
+    for (std::size_t i = 0; vector != nullptr && field.single != 0 && i < vector->axes.size();
+         ++i) {
+      if (isSame(vector->component(i), wanted)) {
+        return field.single + static_cast<std::int32_t>(i);
+      }
+    }
   }
-  const auto& nearest =
-      *std::min_element(vcm::kSingleFields.begin(), vcm::kSingleFields.end(), distances);
-  return distance(wrong, nearest.name) <= (wrong.size() + 1) / kCharactersPerMistake ? nearest.name
-                                                                                     : "";
+  return 0;
 }
 
 }  // namespace
@@ -52,19 +42,19 @@ const vcm::SingleField* fieldNamed(std::string_view nameOrIndex) {
   const std::string wanted(nameOrIndex);
   const auto found = std::find_if(
       vcm::kSingleFields.begin(), vcm::kSingleFields.end(), [&wanted](const vcm::SingleField& row) {
-        return strcasecmp(std::string(row.name).c_str(), wanted.c_str()) == 0 ||
-               std::to_string(row.index) == wanted;
+        return isSame(row.name, wanted) || std::to_string(row.index) == wanted;
       });
-  return found == vcm::kSingleFields.end() ? nullptr : &*found;
+  return found == vcm::kSingleFields.end() ? vcm::findSingleField(indexOfShown(wanted)) : &*found;
 }
 
 std::string unknownField(std::string_view nameOrIndex) {
   if (fieldNamed(nameOrIndex) != nullptr) {
     return {};
   }
-  const std::string_view nearest = nearestName(nameOrIndex);
-  return fmt::format("{} is no field{}", nameOrIndex,
-                     nearest.empty() ? "" : fmt::format("; did you mean {}?", nearest));
+  std::vector<std::string_view> names(vcm::kSingleFields.size());
+  std::transform(vcm::kSingleFields.begin(), vcm::kSingleFields.end(), names.begin(),
+                 [](const vcm::SingleField& field) { return field.name; });
+  return fmt::format("{} is no field{}", nameOrIndex, nearestName(nameOrIndex, names));
 }
 
 std::string fieldNames() {

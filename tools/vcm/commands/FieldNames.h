@@ -9,7 +9,8 @@
 
 namespace vcmtool {
 
-// The field of a name, in small or capital letters, or of an index. Null when there is none.
+// The field of a name, in small or capital letters, of the longer name that messages are shown with, or
+// of an index. Null when there is none.
 const vcm::SingleField* fieldNamed(std::string_view nameOrIndex);
 
 // What is wrong with a name, or an empty text.

@@ -6,8 +6,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "terminal/Screen.h"
-
 namespace vcmtool {
 
 namespace {
@@ -49,10 +47,4 @@ bool isReadable(const std::string& file) {
   const std::string name = file.substr(0, file.find_last_not_of(' ') + 1);
   return access(name.c_str(), R_OK) == 0 && !std::filesystem::is_directory(name, ignored);
 }
-
-void reportUnopened(const std::string& file, int code) {
-  // The code does not tell this file from one that its cards name.
-  printFailure(isReadable(file) ? file + ": a file that it names" : file, code);
-}
-
 }  // namespace vcmtool

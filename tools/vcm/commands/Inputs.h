@@ -27,10 +27,6 @@ inline constexpr const char* kStandardInput = "/dev/stdin";
 
 // Whether a file of this name can be opened for reading.
 bool isReadable(const std::string& file);
-
-// Tells the user that loading `file` ended with this code of an open.
-void reportUnopened(const std::string& file, int code);
-
 }  // namespace vcmtool
 
 #endif

@@ -30,14 +30,16 @@ constexpr const char* kFooter =
 Columns of the table: satellite number, international designator, epoch (year,
 day of year, time, UTC), revolution number, dimension of the covariance (0:
 none), position and velocity in the Earth-centred inertial frame (true of date),
-key. With --columns they are the fields that it names, in the units of vcm get.
+key. With --columns they are the fields that it names, in the units of vcm get,
+and "key".
 
 Orders: satellite (by number, then epoch), reverse (the same backwards), loaded
 (as read) and key. Messages that --sort finds equal keep that order; a "-" before
 a field sorts it descending.
 
-Operators of --where: = != < <= > >=. Dates are 2016366235959.000 or
-2016-366T23:59:59.000Z. Of several conditions all must hold.
+Operators of --where: = != < <= > >=. Dates are 2016366235959.000, or a day
+(2016-366, 2016-12-31) with or without a time behind T or a blank (23:59,
+23:59:59.000Z). Of several conditions all must hold.
 
 Examples:
   vcm list catalogue.vcm
@@ -80,6 +82,9 @@ std::vector<std::int64_t> selectedKeys(const ListOptions& options) {
       return !condition.holds(*vcm::BorrowedRecord(vcm::mediaVcm, key));
     });
   }
+  if (keys.empty() && !options.conditions.empty() && VcmGetCount() > 0 && !options.inputs.quiet) {
+    printMessage("vcm: no message meets the conditions");
+  }
   sortByFields(keys, options.sort);
   return keys;
 }
@@ -98,17 +103,25 @@ void writeTable(StandardOutput& output, const std::vector<std::int64_t>& keys) {
   }
 }
 
+bool isKeyColumn(const std::string& name) { return CLI::detail::to_lower(name) == kKeyColumnName; }
+
+std::string unknownColumn(const std::string& name) {
+  return isKeyColumn(name) ? "" : unknownField(name);
+}
+
 void writeColumns(StandardOutput& output, const std::vector<std::int64_t>& keys,
                   const std::vector<std::string>& names) {
   std::vector<const vcm::SingleField*> fields(names.size());
-  std::transform(names.begin(), names.end(), fields.begin(), fieldNamed);
+  std::transform(names.begin(), names.end(), fields.begin(), [](const std::string& name) {
+    return isKeyColumn(name) ? kKeyColumn : fieldNamed(name);
+  });
   FieldColumns table(fields);
   for (const std::int64_t key : keys) {
-    table.measure(*vcm::BorrowedRecord(vcm::mediaVcm, key));
+    table.measure(key, *vcm::BorrowedRecord(vcm::mediaVcm, key));
   }
   table.appendHeader(output.buffer());
   for (const std::int64_t key : keys) {
-    table.append(output.buffer(), *vcm::BorrowedRecord(vcm::mediaVcm, key));
+    table.append(output.buffer(), key, *vcm::BorrowedRecord(vcm::mediaVcm, key));
     if (!output.lineDone()) {
       break;
     }
@@ -133,7 +146,14 @@ ExitCode list(const ListOptions& options) {
 // Adds an option whose argument is a list separated by commas, and which may be repeated.
 CLI::Option* addList(CLI::App& command, const std::string& name, std::vector<std::string>& list,
                      const std::string& description) {
-  return command.add_option(name, list, description)->delimiter(',')->allow_extra_args(false);
+  const auto trim = [](std::string& item) {
+    CLI::detail::trim(item);
+    return std::string();
+  };
+  return command.add_option(name, list, description)
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->transform(CLI::Validator(trim, ""));
 }
 
 }  // namespace
@@ -148,7 +168,7 @@ void addListCommand(CLI::App& program, ExitCode& exitCode) {
       ->capture_default_str();
   addList(*command, "--columns", options->columns, "Fields to show in place of the usual table")
       ->type_name("FIELD,...")
-      ->check(unknownField);
+      ->check(unknownColumn);
   command->add_option("--where", options->conditions, "Only messages that meet a condition")
       ->type_name("'FIELD OP VALUE'")
       ->allow_extra_args(false)

@@ -1,5 +1,7 @@
 #include "commands/Loading.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <string>
@@ -29,16 +31,31 @@ class Counting final : public vcm::ReadingObserver {
 
 }  // namespace
 
+ExitCode loadFile(const std::string& file, vcm::ReadingObserver& observer, Progress& progress) {
+  const FileReading reading = readMessageFile(file, observer, progress);
+  if (reading.code != 0) {
+    // The code does not tell this file from one that its cards name.
+    printFailure(isReadable(file) ? file + ": a file that it names" : file, reading.code);
+    return kFailed;
+  }
+  if (!reading.lack.empty()) {
+    printMessage(fmt::format("vcm: {}: {}", file, reading.lack));
+    return kBadInput;
+  }
+  return kFine;
+}
+
 ExitCode loadFiles(const Inputs& inputs) {
   ExitCode result = kFine;
   // The count line has no place for messages that are refused at the store's door, so what is bad
   // is told from the error lines: each stands for a bad message unless it reports a duplicate.
   const Trace trace([&](bool isError, std::string_view line) {
     const bool duplicate = line.starts_with("AddRecToMem: Duplicated");
-    if (isError && (inputs.duplicatesAreBad || !duplicate)) {
+    const bool isFault = isError && (inputs.duplicatesAreBad || !duplicate);
+    if (isFault) {
       result = std::max(result, kBadInput);
     }
-    if (isError || !inputs.quiet) {
+    if (isFault || !inputs.quiet) {
       printMessage(line);
     }
   });
@@ -46,10 +63,7 @@ ExitCode loadFiles(const Inputs& inputs) {
   Counting counting(progress);
   for (const std::string& file : inputs.files) {
     progress.file(file);
-    if (const std::int32_t code = readMessageFile(file, counting, progress); code != 0) {
-      reportUnopened(file, code);
-      result = kFailed;
-    }
+    result = std::max(result, loadFile(file, counting, progress));
   }
   return result;
 }

@@ -2,13 +2,20 @@
 #ifndef VCM_TOOLS_LOADING_H
 #define VCM_TOOLS_LOADING_H
 
+#include <string>
+
+#include "VCM/VcmCardReading/ReadingObserver.h"
 #include "commands/Inputs.h"
 #include "terminal/ExitCode.h"
+#include "terminal/Progress.h"
 
 namespace vcmtool {
 
+// Loads one file and tells the user when it cannot be read, or holds something but no message.
+ExitCode loadFile(const std::string& file, vcm::ReadingObserver& observer, Progress& progress);
+
 // Loads all files, also those after one that fails. The library's messages go to standard error.
-// kBadInput when a message was left out for being bad; duplicates only if the inputs say so.
+// kBadInput when a message was left out for being bad, or a file holds none; duplicates only if the inputs say so.
 ExitCode loadFiles(const Inputs& inputs);
 
 }  // namespace vcmtool

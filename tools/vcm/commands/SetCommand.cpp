@@ -25,8 +25,9 @@ namespace vcmtool {
 namespace {
 
 constexpr const char* kExamples = R"(
-Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss; units
-are those of a message: km, km/s, s, m2/kg, arcsec; ut1Rate is in ms/day.
+Satellite number and epoch cannot be changed. Dates are yyyydddhhmmss.sss or
+those of vcm list --where; units are those of a message: km, km/s, s, m2/kg,
+arcsec; ut1Rate is in ms/day.
 
 All messages of FILE are written, in its form unless --to says another: in the
 multi-line one where it has several, or is a pipe. Comments, cards that name
@@ -66,12 +67,10 @@ void checkUsage(const SetOptions& options) {
   }
 }
 
-// False when a change was refused. What the library cannot read it takes as zero, with no more than
-// an error line.
+// False when a change was refused, which the library says itself.
 bool change(const std::vector<std::int64_t>& keys, const std::vector<std::string>& changes) {
   bool good = true;
-  const Trace trace([&good](bool isError, std::string_view line) {
-    good = good && !isError;
+  const Trace trace([](bool isError, std::string_view line) {
     if (isError) {
       printMessage(line);
     }

@@ -16,7 +16,8 @@ namespace {
 
 constexpr const char* kFooter =
     R"(All messages of the satellite are shown, by epoch. The names of --fields are
-those of JSON; for those of get and set see vcm get --help.
+those of JSON; list, get and set take them as well as the shorter ones of
+vcm get --help, where they stand for a single value that has one.
 
 Examples:
   vcm show catalogue.vcm 13

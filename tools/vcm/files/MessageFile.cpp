@@ -14,6 +14,7 @@
 #include "VCM/VcmFormats/MultiLineLayout.h"
 #include "VCM/VcmTree/Store.h"
 #include "VCM/VcmTypes/FixedText.h"
+#include "files/NoMessage.h"
 #include "messages/Forms.h"
 #include "messages/JsonReading.h"
 
@@ -50,20 +51,22 @@ bool holdsUnread(std::string_view card) {
 
 }  // namespace
 
-std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
-                             Progress& progress) {
+FileReading readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
+                            Progress& progress) {
   vcm::logInfo(fmt::format("Reading \"{}\"", name));
   vcm::OpenFile file;
   if (const std::int32_t code = vcm::openInputFile(name, file); code != 0) {
-    return code;
+    return {code, ""};
   }
   const Progress::Reading reading(progress, fileno(file.get()));
   if (isJson(file.get())) {
     readJsonMessages(file.get(), name, &observer);
-    return 0;
+    return {};
   }
+  MessageSighting sighting(observer);
   vcm::CardReader cards(file.get());
-  return vcm::ReadVcmsFrFileUnit(cards, name, &observer);
+  const std::int32_t code = vcm::ReadVcmsFrFileUnit(cards, name, &sighting);
+  return {code, code != 0 || sighting.any() ? "" : whyNoMessage(file.get())};
 }
 
 void startAfresh() {

@@ -11,10 +11,14 @@
 
 namespace vcmtool {
 
-// Adds every good message of a file to the store. Returns 0, or the nonzero code of an open that
-// failed.
-std::int32_t readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
-                             Progress& progress);
+struct FileReading {
+  std::int32_t code = 0;  // of an open that failed
+  std::string lack;       // what to say of a file that holds something, but no message; or empty
+};
+
+// Adds every good message of a file to the store.
+FileReading readMessageFile(const std::string& name, vcm::ReadingObserver& observer,
+                            Progress& progress);
 
 // Empties the store. A file that switched to direct addresses does so no longer for the next one.
 void startAfresh();

@@ -10,6 +10,8 @@
 #include <system_error>
 #include <utility>
 
+#include "files/UnfinishedFile.h"
+
 namespace vcmtool {
 
 namespace {
@@ -48,6 +50,7 @@ OutputFile::~OutputFile() {
   }
   if (!temporary_.empty()) {
     unlink(temporary_.c_str());
+    leaveOnSignal();
   }
 }
 
@@ -82,8 +85,10 @@ int OutputFile::open(const std::string& name) {
 
 int OutputFile::openBeside(const fs::path& place) {
   fs::path temporary = temporaryBeside(place);
+  removeOnSignal(temporary);
   descriptor_ = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
   if (descriptor_ < 0) {
+    leaveOnSignal();
     return errno;
   }
   place_ = place;
@@ -102,6 +107,7 @@ int OutputFile::commit() {
   if (rename(temporary_.c_str(), place_.c_str()) != 0) {
     return errno;
   }
+  leaveOnSignal();
   temporary_.clear();
   return 0;
 }

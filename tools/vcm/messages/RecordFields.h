@@ -43,6 +43,8 @@ struct TextMember {
 struct RecordField {
   std::string_view name;
   std::variant<IntegerMember, RealMember, DateMember, VectorMember, TextMember> member;
+  // Index of the single field, of a vector's first component; 0 where there is none.
+  std::int32_t single = 0;
   bool required = false;  // no message is without it
 };
 

@@ -2,12 +2,11 @@
 
 #include <fmt/compile.h>
 
-#include <cctype>
 #include <iterator>
 #include <string>
 #include <string_view>
 
-#include "Host/HostCalendar.h"
+#include "messages/Designator.h"
 #include "messages/EpochText.h"
 #include "messages/PrintableText.h"
 
@@ -17,16 +16,10 @@ namespace {
 
 constexpr std::string_view kSecondLineIndent = "\n  ";
 
-// "1989-021F" for 89021F. A blank one shows as "-", so that a line has as many words as any other.
+// A blank one shows as "-", so that a line has as many words as any other.
 std::string designatorText(std::string_view intlDes) {
-  constexpr std::size_t kYearDigits = 2;
   const std::string text = printable(intlDes.substr(0, intlDes.find_last_not_of(' ') + 1));
-  if (text.size() > kYearDigits && std::isdigit(static_cast<unsigned char>(text[0])) != 0 &&
-      std::isdigit(static_cast<unsigned char>(text[1])) != 0) {
-    const std::int32_t year = (text[0] - '0') * 10 + (text[1] - '0');
-    return fmt::format(FMT_COMPILE("{}-{}"), fixyr(&year), text.substr(kYearDigits));
-  }
-  return text.empty() ? "-" : text;
+  return text.empty() ? "-" : longDesignator(text);
 }
 
 void appendIdentity(fmt::memory_buffer& out, const MessageArrays& message) {
