@@ -48,8 +48,8 @@ def test_some_rows_and_columns(
     assert table["satKey"][0] in vcm.store and vcm.get(table["satKey"][0]) == vcm.get(keys[0])
     assert vcm.table(keys, columns="bTerm").dtype.names == ("bTerm",)
     wrong: dict[str, Any] = {
-        "'nothing', but those of": {"columns": ["nothing"]},
-        "'EPOCHDAYS', but epochDays": {"columns": "EPOCHDAYS"},
+        "'nothing'; see": {"columns": ["nothing"]},
+        "'EPOCHDAYS'; did you mean epochDays": {"columns": "EPOCHDAYS"},
         "f10 is chosen twice": {"columns": ["f10", "bTerm", "f10"]},
         "'key' is no vcm.Order": {"order": "key"},
     }

@@ -31,4 +31,5 @@ def unknown_name(kind: str, name: object, names: Iterable[str], listed: str) -> 
     """The error for a name that is none of these: with those like it, or where they are listed."""
     by_lower = {known.lower(): known for known in names}
     close = [by_lower[like] for like in get_close_matches(str(name).lower(), by_lower)]
-    return RefusedError(f"no {kind} is named {name!r}, but {', '.join(close) or listed}")
+    hint = f"did you mean {' or '.join(close)}?" if close else f"see {listed}"
+    return RefusedError(f"no {kind} is named {name!r}; {hint}")

@@ -65,7 +65,7 @@ def set_field(satKey: int, name: str, value: Moment) -> None:
 
 def _index(name: str) -> int:
     if name not in _layout.FIELDS:
-        raise unknown_name("field", name, FIELD_NAMES, "those of vcm.FIELD_NAMES")
+        raise unknown_name("field", name, FIELD_NAMES, "vcm.FIELD_NAMES")
     return _layout.FIELDS[name]
 
 

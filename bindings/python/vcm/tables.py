@@ -70,7 +70,7 @@ def table(
     chosen = names if columns is None else [columns] if isinstance(columns, str) else list(columns)
     for place, name in enumerate(chosen):
         if name not in names:
-            raise unknown_name("column", name, names, "those of vcm.table().dtype")
+            raise unknown_name("column", name, names, "vcm.table().dtype")
         if name in chosen[:place]:
             raise RefusedError(f"the column {name} is chosen twice")
     dtypes = [(name, "i8" if name == "satKey" else _COLUMNS[name].dtype) for name in chosen]
