@@ -47,4 +47,5 @@ bool isReadable(const std::string& file) {
   const std::string name = file.substr(0, file.find_last_not_of(' ') + 1);
   return access(name.c_str(), R_OK) == 0 && !std::filesystem::is_directory(name, ignored);
 }
+
 }  // namespace vcmtool

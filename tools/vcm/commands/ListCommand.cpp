@@ -1,4 +1,5 @@
 // vcm list: the satellites in files.
+#include <strings.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "VCM/VcmTree/Store.h"
+#include "VCM/VcmTypes/FixedText.h"
 #include "commands/Command.h"
 #include "commands/Condition.h"
 #include "commands/FieldNames.h"
@@ -103,7 +105,10 @@ void writeTable(StandardOutput& output, const std::vector<std::int64_t>& keys) {
   }
 }
 
-bool isKeyColumn(const std::string& name) { return CLI::detail::to_lower(name) == kKeyColumnName; }
+// In small or capital letters, as with fields.
+bool isKeyColumn(const std::string& name) {
+  return strcasecmp(name.c_str(), kKeyColumnName.data()) == 0;
+}
 
 std::string unknownColumn(const std::string& name) {
   return isKeyColumn(name) ? "" : unknownField(name);
@@ -147,7 +152,7 @@ ExitCode list(const ListOptions& options) {
 CLI::Option* addList(CLI::App& command, const std::string& name, std::vector<std::string>& list,
                      const std::string& description) {
   const auto trim = [](std::string& item) {
-    CLI::detail::trim(item);
+    item = std::string(vcm::withoutTrailingBlanks(vcm::withoutLeadingBlanks(item)));
     return std::string();
   };
   return command.add_option(name, list, description)

@@ -15,7 +15,8 @@ namespace vcmtool {
 ExitCode loadFile(const std::string& file, vcm::ReadingObserver& observer, Progress& progress);
 
 // Loads all files, also those after one that fails. The library's messages go to standard error.
-// kBadInput when a message was left out for being bad, or a file holds none; duplicates only if the inputs say so.
+// kBadInput when a message was left out for being bad, duplicates only if the inputs say so, or when a
+// file holds no message.
 ExitCode loadFiles(const Inputs& inputs);
 
 }  // namespace vcmtool
